@@ -1,0 +1,26 @@
+# The media folder that the program reads: drawings rendered to textures, everything else linked as it is.
+#
+# skyvane_media(<target>) fills ${CMAKE_BINARY_DIR}/media: each media/drawings/<name>.svg becomes <name>.png at the
+# size written in the drawing, and every other entry of media/ becomes a link.
+find_program(RSVG_CONVERT rsvg-convert REQUIRED)
+
+function(skyvane_media target)
+  set(out ${CMAKE_BINARY_DIR}/media)
+  file(MAKE_DIRECTORY ${out})
+  file(GLOB drawings CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/media/drawings/*.svg)
+  set(textures "")
+  foreach(drawing IN LISTS drawings)
+    get_filename_component(name ${drawing} NAME_WE)
+    add_custom_command(OUTPUT ${out}/${name}.png
+                       COMMAND ${RSVG_CONVERT} --format png --output ${out}/${name}.png ${drawing}
+                       DEPENDS ${drawing} VERBATIM)
+    list(APPEND textures ${out}/${name}.png)
+  endforeach()
+  file(GLOB entries RELATIVE ${CMAKE_SOURCE_DIR}/media CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/media/*)
+  foreach(entry IN LISTS entries)
+    if(NOT entry STREQUAL drawings)
+      file(CREATE_LINK ${CMAKE_SOURCE_DIR}/media/${entry} ${out}/${entry} SYMBOLIC)
+    endif()
+  endforeach()
+  add_custom_target(${target} ALL DEPENDS ${textures})
+endfunction()

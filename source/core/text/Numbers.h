@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+namespace skyvane {
+
+/// Numbers in documents and texts, independent of the locale.
+
+/// The leading number of a text after blanks, as stream extraction reads it; `fallback` (0) when there is none, when it
+/// doesn't fit the type, or when it isn't finite.
+int toInt(const std::string& text, int fallback = 0);
+unsigned toUnsigned(const std::string& text, unsigned fallback = 0);
+double toDouble(const std::string& text, double fallback = 0.0);
+/// Non-zero integers are true.
+bool toBool(const std::string& text, bool fallback = false);
+
+/// The shortest decimal text that reads back as the same number.
+std::string toText(double value);
+std::string toText(int value);
+/// With a fixed number of decimals, halves away from zero, and no "-0".
+std::string toFixedText(double value, int decimals);
+
+/// Nearest whole number, halves away from zero; limited to int's range, 0 for NaN.
+int roundHalfAway(double value);
+
+} // namespace skyvane
