@@ -4,7 +4,7 @@
 # vector, rectangle and dimension types), open no window and reach no manager; they form the library skyvane_lower.
 # Every other folder below source/ belongs to skyvane_upper, which may include the engine.
 set(SKYVANE_LOWER_FLOOR
-    core/bytes core/files core/geometry core/ini core/log core/text core/threads core/time
+    core/bytes core/files core/geometry core/ini core/log core/messages core/text core/threads core/time
     sensors
     attitude/math
     chart/geodesy

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "core/ICommonAppContext.h"
+#include "core/ScreenMetrics.h"
+#include "core/engine/EngineRef.h"
+#include "sensors/ISensorHost.h"
+
+#include <irrlicht.h>
+#include <memory>
+#include <string>
+
+namespace skyvane {
+
+struct ChartPosition;
+class EventReceiver;
+class FlexibleFontManager;
+class IProcedure;
+class Logger;
+class MaterialManager;
+class PanelManager;
+class SensorManager;
+class Skin;
+class SystemManager;
+class ThreadInfo;
+
+/// The application: owns every manager, makes them in the order of need and ends them in reverse. Made by main, used
+/// on the main thread; other threads may read its pointers after construction and call getPath.
+class Context : public ICommonAppContext, public ISensorHost {
+public:
+    /// The device outlives the context. `full` false stops after the managers, before any factory is registered.
+    Context(irr::IrrlichtDevice* device, const char* argv0, bool full);
+    ~Context() override;
+    Context(const Context&) = delete;
+    Context& operator=(const Context&) = delete;
+
+    IMultiEventReceiver* getEventReceiver() override;
+    Drawer2D* getDrawer() override { return drawer_.get(); }
+    irr::IrrlichtDevice* getIrrlichtDevice() override { return device_; }
+    FlexibleFont* getFlexibleFont() override;
+    int getRecommendedButtonWidth() override { return metrics_.buttonWidth; }
+    int getRecommendedButtonHeight() override { return metrics_.buttonHeight; }
+    std::string getPath(const std::string& path) override;
+    void setSoftInputVisibility(bool) override {}
+    void gotoURL(const std::string& url) override;
+    void gotoLocationApp(const ChartPosition& position);
+
+    // ISensorHost
+    void pumpWindow() override;
+    void showMessageBox(const std::string& text) override;
+    void setMessage(void* owner, const std::string& text, MESSAGECOLOR level, int timeoutMilliseconds) override;
+    void removeMessage(void* owner) override;
+    std::string getConfigPath() override;
+
+    const ScreenMetrics& getScreenMetrics() const { return metrics_; }
+    bool isPortrait() const { return metrics_.portrait; }
+    bool isRawGyro() const { return true; }
+    double getScreenOrientationRoll(ThreadInfo*) const { return 0.0; }
+
+    PanelManager* getPanelManager() { return panels_.get(); }
+    SensorManager* getSensorManager() { return sensors_.get(); }
+    MaterialManager* getMaterialManager() { return materials_.get(); }
+    SystemManager* getSystemManager() { return system_.get(); }
+    FlexibleFontManager* getFontManager() { return fontManager_.get(); }
+    /// The procedure being flown; a NullProcedure without a flight plan. Never null.
+    IProcedure* getCurrentProcedure() { return procedure_.get(); }
+    EventReceiver* getEvents() { return events_.get(); }
+    Skin* getSkin() { return skin_; }
+
+    bool shallExit() const { return shallExit_; }
+    void setShallExit(bool exit) { shallExit_ = exit; }
+
+    /// The frame pacer: waits until at least 36 ms have passed since its last call.
+    void yieldWhileInactive();
+    void OnMustFreeMemory();
+    /// Tells the user on the screen when the file is missing, then ends the program with an orderly exit code.
+    void assertExistance(const std::string& path);
+
+private:
+    void registerFactories();
+    void logStep(const char* text);
+
+    irr::IrrlichtDevice* device_;
+    ScreenMetrics metrics_;
+    std::unique_ptr<ThreadInfo> mainThreadInfo_;
+    EngineRef<FlexibleFontManager> fontManager_;
+    std::unique_ptr<Drawer2D> drawer_;
+    std::unique_ptr<SystemManager> system_;
+    Skin* skin_ = nullptr;
+    std::unique_ptr<Logger> logger_;
+    std::unique_ptr<PanelManager> panels_;
+    std::unique_ptr<SensorManager> sensors_;
+    std::unique_ptr<IProcedure> procedure_;
+    std::unique_ptr<EventReceiver> events_;
+    std::unique_ptr<MaterialManager> materials_;
+    unsigned lastFrameMilliseconds_ = 0;
+    bool shallExit_ = false;
+};
+
+} // namespace skyvane

@@ -1,0 +1,138 @@
+#pragma once
+
+#include "displays/IPanel.h"
+#include "displays/IPanelFactory.h"
+#include "displays/layout/MessageBoard.h"
+#include "displays/layout/PageLayout.h"
+#include "displays/layout/RenderTargetPool.h"
+
+#include <irrlicht.h>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace skyvane {
+
+class Context;
+class FlexibleFont;
+class IniFile;
+class IProgressCallback;
+class MessageBoxView;
+
+/// Owns the panels and their pages, the order in which they are drawn and offered events, the message box, the shared
+/// render targets and the panel font. Main thread only.
+///
+/// The menu, the chart, the details panel and the overlays join with their own work; until then the panel area is the
+/// whole screen and Page Up and Page Down turn the pages.
+class PanelManager {
+public:
+    explicit PanelManager(Context* context);
+    ~PanelManager();
+    PanelManager(const PanelManager&) = delete;
+    PanelManager& operator=(const PanelManager&) = delete;
+
+    /// A null factory keeps the place of a panel to come: sections that name it are skipped.
+    void addPanelFactory(std::unique_ptr<IPanelFactory> factory);
+    const std::vector<std::unique_ptr<IPanelFactory>>& getPanelFactories() const { return factories_; }
+
+    void loadFontSettingsFromIni(IniFile* ini);
+    void loadPanelSettingsFromIni(IniFile* ini, IProgressCallback* progress, bool reloadChart, bool reloadFonts);
+    void unload();
+
+    void Render();
+    void RenderAfterGUI();
+    /// The page `pageOffset` away from the current one, as previews, into the rectangle.
+    void renderPagePreview(irr::core::rect<int> rect, int pageOffset);
+    /// False when the event was consumed.
+    bool processEvent(irr::SEvent event);
+
+    void nextPage();
+    void previousPage();
+    int getCurrentPage() const { return currentPage_; }
+    int getPageCount() const { return layout_.pageCount; }
+
+    /// Null ends the full screen. The panel is one of this manager's.
+    void setFullScreenPanel(IPanel* panel);
+    IPanel* getFullScreenPanel() const { return fullScreenPanel_; }
+    /// While locked, mouse and touch input reaches no panel.
+    void setLock(bool locked) { locked_ = locked; }
+    void hideAllPanelGUI();
+
+    /// A box with that text; an empty text does nothing.
+    void setMessage(const std::string& text, irr::video::SColor box, irr::video::SColor textColor,
+                    int durationMilliseconds, bool close);
+    /// A message that an owner keeps up; a negative time-out means none.
+    void setMessage(void* owner, const std::string& text, MESSAGECOLOR level, int timeoutMilliseconds);
+    void removeMessage(void* owner);
+    void setAcceptMessagesEnabled(bool enabled) { board_.setAccepting(enabled); }
+    bool isAcceptMessagesEnabled() const { return board_.isAccepting(); }
+
+    /// A vertical range of the screen that a panel claims: the message box moves above it.
+    void updateNonMessageYArea(int from, int to);
+    void clearNonMessageYArea();
+
+    /// A square target that panels with other owners and ids may share; released by removeRequest.
+    irr::video::ITexture* requestRTT(void* owner, int id, int size);
+    void removeRequest(irr::video::ITexture* texture, void* owner, int id);
+
+    // Notifications, to every panel in list order.
+    void OnChartChanged();
+    void OnProcedureChanged();
+    void OnFISDataChanged(bool changed);
+    void OnProcedureNodesDelete();
+    void OnProcedureMeshExchanged();
+    void OnTerrainNodesDelete();
+    void OnTerrainMeshExchanged();
+    void OnWideTerrainNodesDelete();
+    void OnWideTerrainMeshExchanged();
+    void OnMustFreeMemory() {}
+
+    void applyOptimizedSettings(IPanel::OptimizedSettings settings);
+    /// To `optimized` of the configuration document; 5 writes an empty text.
+    void writeOptimizedSetting(int settings);
+
+    bool isMetric() const { return metric_; }
+    bool isDrawFPS() const { return drawFps_; }
+    int getTerrainDetailLevel() const { return terrainDetailLevel_; }
+    unsigned getIrrelevantAirspaceCount() const { return static_cast<unsigned>(irrelevantAirspaces_.size()); }
+    std::string getIrrelevantAirspace(unsigned index) const;
+    FlexibleFont* getFlexibleFont() const { return font_; }
+
+private:
+    struct LoadedPanel {
+        std::unique_ptr<IPanel> panel;
+        int page;
+        irr::core::rect<int> rect;
+    };
+
+    void readSettings(IniFile* ini);
+    void loadPanels(IniFile* ini);
+    void turnPage(int step);
+    bool isVisibleGUIElementAt(irr::core::vector2d<int> position);
+    bool offerToPanels(const irr::SEvent& event);
+    template <class Notify>
+    void forEachPanel(Notify notify) {
+        for (LoadedPanel& loaded : panels_)
+            notify(*loaded.panel);
+    }
+
+    Context* context_;
+    std::vector<std::unique_ptr<IPanelFactory>> factories_;
+    std::vector<LoadedPanel> panels_; ///< In section order: drawn first to last, offered events last to first.
+    PageLayout layout_;
+    int currentPage_ = 0;
+    irr::core::rect<int> fullRect_;
+    IPanel* fullScreenPanel_ = nullptr;
+    bool locked_ = false;
+    bool metric_ = false;
+    bool drawFps_ = false;
+    bool messagesDisabled_ = false;
+    int terrainDetailLevel_ = 0;
+    std::vector<std::string> irrelevantAirspaces_;
+    FlexibleFont* font_ = nullptr; ///< Owned by the font manager.
+    MessageBoard board_;
+    std::unique_ptr<MessageBoxView> messageBox_;
+    RenderTargetPool targets_;
+};
+
+} // namespace skyvane
