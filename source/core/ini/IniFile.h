@@ -32,7 +32,7 @@ public:
     bool isAvailable(const std::string& section, const std::string& key) const;
     void removeSection(const std::string& section);
     void removeValue(const std::string& section, const std::string& key);
-    /// The whole of `from` replaces `to`, and `from` goes.
+    /// The whole of `from` replaces `to`, and `from` goes. Nothing happens when there is no `from`.
     void moveSection(const std::string& from, const std::string& to);
 
     std::string toString() const;
@@ -41,11 +41,10 @@ public:
     bool Save(const std::string& path) const;
 
     /// Walks this document, which must outlive the iterator and stay unchanged meanwhile.
+    /// The caller includes core/ini/IniIterator.h.
     std::unique_ptr<IniIterator> newIterator() const;
 
 private:
-    void parse(const char* bytes, size_t count);
-
     Sections sections_;
 };
 

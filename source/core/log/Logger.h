@@ -22,9 +22,11 @@ public:
     Logger(const Logger&) = delete;
     Logger& operator=(const Logger&) = delete;
 
-    /// T is one of const char*, std::string, double, int, unsigned long.
+    /// T is one of std::string, double, int, unsigned long.
     template <class T>
     void log(const T& value, int flags, int file = 0);
+    /// Null counts as the empty text.
+    void log(const char* value, int flags, int file = 0);
 
     /// Opens another file of the folder, truncating it; the result is the `file` argument of log().
     int createAdditionalLogFile(const char* name);

@@ -17,7 +17,8 @@ bool toBool(const std::string& text, bool fallback = false);
 /// The shortest decimal text that reads back as the same number.
 std::string toText(double value);
 std::string toText(int value);
-/// With a fixed number of decimals, halves away from zero, and no "-0".
+/// With a fixed number of decimals (0 to 100), no "-0". The halves of the shortest decimal text round away from zero,
+/// so that 1.005 gives 1.01 and not the 1.00 of its binary neighbour.
 std::string toFixedText(double value, int decimals);
 
 /// Nearest whole number, halves away from zero; limited to int's range, 0 for NaN.
