@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# run.sh BUILD [--smoke]: the window tests of a build; --smoke runs only what a slow (sanitized) build can do.
+set -euo pipefail
+build=$1
+shift
+export ASAN_OPTIONS=detect_leaks=0
+exec /usr/bin/python3 "$(dirname "$0")/run_tests.py" "$build" "$@"
