@@ -6,5 +6,5 @@ find_package_handle_standard_args(Irrlicht DEFAULT_MSG IRRLICHT_LIBRARY IRRLICHT
 if(Irrlicht_FOUND AND NOT TARGET Irrlicht::Irrlicht)
   add_library(Irrlicht::Irrlicht UNKNOWN IMPORTED)
   set_target_properties(Irrlicht::Irrlicht PROPERTIES IMPORTED_LOCATION ${IRRLICHT_LIBRARY}
-                        INTERFACE_SYSTEM_INCLUDE_DIRECTORIES ${IRRLICHT_INCLUDE_DIR})
+                        INTERFACE_INCLUDE_DIRECTORIES ${IRRLICHT_INCLUDE_DIR})
 endif()
