@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace skyvane {
+
+/// One figure that ./bench prints: a ratio to a baseline of the same run, or a count.
+struct Bench {
+    enum class Bound { AtMost, AtLeast };
+
+    std::string name;
+    Bound kind;
+    double limit;
+    /// Measures; `smoke` asks for the shortest run that still goes through everything. NaN when it couldn't measure.
+    std::function<double(bool smoke)> measure;
+};
+
+/// Where the build's programs are: handed to ./bench's program as its first argument.
+const std::string& benchBuildFolder();
+
+/// All figures, from the files beside this one.
+std::vector<Bench> recordBenches();
+std::vector<Bench> frameBenches();
+std::vector<Bench> startBenches();
+
+/// Seconds of one call.
+double secondsOf(const std::function<void()>& work);
+double median(std::vector<double> values);
+/// Calls a and b in turn, so that a drift of the machine meets both, and gives median(a) / median(b).
+double ratioOfMedians(int rounds, const std::function<double()>& a, const std::function<double()>& b);
+
+} // namespace skyvane
