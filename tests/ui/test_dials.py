@@ -1,0 +1,126 @@
+"""What is sent is what the dials show: states held by flightfeed come in over UDP and are read back from the pixels."""
+import math
+import os
+import time
+
+from cockpit import ROOT, Cockpit
+from dials import Dial, red, yellow
+from run_tests import smoke
+
+DEMO = open(os.path.join(ROOT, 'tools/demo/config.ini')).read()
+SIZE = (1280, 720)
+PLACES = {'speed': (0.0, 0.0, 0.28, 0.5), 'compass': (0.0, 0.5, 0.28, 1.0), 'attitude': (0.28, 0.09, 0.72, 0.91),
+          'altimeter': (0.72, 0.0, 1.0, 0.5), 'vertical': (0.72, 0.5, 1.0, 1.0)}
+DIALS = {name: Dial(place, SIZE) for name, place in PLACES.items()}
+
+
+def apart(a, b):
+    return abs((a - b + 180) % 360 - 180)
+
+
+def speed_angle(knots):
+    return 320 * (knots - 40) / 160 + 20 if knots >= 40 else knots * 0.5
+
+
+def vertical_angle(feet_per_minute):
+    turn = 180 * (1 - math.exp(-0.00046209812033333334 * abs(feet_per_minute)))
+    return -90 + math.copysign(turn, feet_per_minute)
+
+
+def hold(cockpit, protocol, **state):
+    text = ','.join('%s=%s' % item for item in state.items())
+    return cockpit.feed('--protocol', protocol, '--state', text)
+
+
+def settled(cockpit, seconds=8):
+    """Long enough for the vertical speed's filter and the engine's own box to settle."""
+    time.sleep(seconds)
+    pixels = cockpit.look()
+    return pixels
+
+
+def dismiss_box(cockpit):
+    time.sleep(1.5)
+    cockpit.key('Return')
+
+
+def check_state(cockpit, build, pitch, roll, heading, altitude_ft, ias_kt, vs_fpm, name):
+    pixels = settled(cockpit)
+    cockpit.save(pixels, name)
+    bank, nose = DIALS['attitude'].horizon(pixels)
+    assert apart(bank, roll) < 1.5, ('bank', bank, roll)
+    assert abs(nose - pitch) < 1.0, ('pitch', nose, pitch)
+    card = DIALS['compass'].card(pixels, build)
+    assert apart(card, -heading) < 1.5, ('card', card, heading)
+    hand = DIALS['altimeter'].needle(pixels, 0.725)
+    assert apart(hand, 0.36 * altitude_ft) < 2.5, ('hundreds hand', hand, altitude_ft)
+    hand = DIALS['speed'].needle(pixels, 0.40)
+    assert apart(hand, speed_angle(ias_kt)) < 2.5, ('speed', hand, speed_angle(ias_kt))
+    hand = DIALS['vertical'].needle(pixels, 0.725, blind=[(70, 110)])
+    assert apart(hand, vertical_angle(vs_fpm)) < 2.5, ('vertical speed', hand, vertical_angle(vs_fpm))
+    for dial_name, dial in DIALS.items():
+        assert dial.share(pixels, red) < 0.02, dial_name
+
+
+STATES = [dict(pitch=0, roll=0, heading=0, altitude_ft=2500, ias_kt=90, vs_fpm=0),
+          dict(pitch=10, roll=20, heading=87, altitude_ft=12345, ias_kt=137, vs_fpm=800),
+          dict(pitch=-8, roll=-35, heading=301, altitude_ft=640, ias_kt=63, vs_fpm=-1200)]
+
+
+@smoke
+def test_flightgear_states_are_shown(build):
+    with Cockpit(build, DEMO, SIZE) as cockpit:
+        cockpit.wait_for_window()
+        dismiss_box(cockpit)
+        for number, state in enumerate(STATES):
+            feeder = hold(cockpit, 'flightgear', **state)
+            check_state(cockpit, build, name='flightgear-state-%d' % number, **state)
+            feeder.kill()
+            feeder.wait()
+
+
+def test_xplane_states_are_shown(build):
+    config = DEMO.replace('FactoryIndex = 4\nFactoryName = FlightGear\\ Flight\\ Simulator',
+                          'FactoryIndex = 5\nFactoryName = XPlane\\ Flight\\ Simulator')
+    assert config != DEMO
+    with Cockpit(build, config, SIZE) as cockpit:
+        cockpit.wait_for_window()
+        dismiss_box(cockpit)
+        hold(cockpit, 'xplane', **STATES[1])
+        check_state(cockpit, build, name='xplane-state', **STATES[1])
+
+
+def test_silence_brings_red_crosses_in_time_and_data_takes_them_away(build):
+    with Cockpit(build, DEMO, SIZE) as cockpit:
+        cockpit.wait_for_window()
+        dismiss_box(cockpit)
+
+        def crossed():
+            pixels = cockpit.look()
+            return pixels, [name for name, dial in DIALS.items() if dial.share(pixels, red) > 0.02]
+        cockpit.wait(lambda: len(crossed()[1]) == len(DIALS), 10, 'red crosses before any data')
+        feeder = hold(cockpit, 'flightgear', **STATES[0])
+        cockpit.wait(lambda: not crossed()[1], 10, 'the crosses to go')
+        feeder.kill()
+        feeder.wait()
+        silent = time.time()
+        time.sleep(0.6)
+        assert not crossed()[1], 'a cross before a second of silence'
+        cockpit.wait(lambda: len(crossed()[1]) == len(DIALS), 5, 'red crosses after the silence')
+        took = time.time() - silent
+        assert took < 1.6, took
+        pixels, _ = crossed()
+        cockpit.save(pixels, 'failed')
+        # A failed dial is never a level horizon.
+        assert DIALS['attitude'].horizon(pixels) is None
+
+
+def test_portrait_page_shows_the_same_dials(build):
+    with Cockpit(build, DEMO, (720, 1280)) as cockpit:
+        cockpit.wait_for_window()
+        dismiss_box(cockpit)
+        hold(cockpit, 'flightgear', **STATES[1])
+        pixels = settled(cockpit, 3)
+        cockpit.save(pixels, 'portrait')
+        bank, nose = Dial((0.0, 0.0, 1.0, 0.5), (720, 1280)).horizon(pixels)
+        assert apart(bank, STATES[1]['roll']) < 1.5 and abs(nose - STATES[1]['pitch']) < 1.0, (bank, nose)
