@@ -10,17 +10,29 @@ class Context;
 
 /// The program's own material types, by name. The 2-D ones are here: "Solid", "VertexAlpha", "TextureAlpha", "Alpha",
 /// "AlphaRef", "VertexAndTextureColor"; those of terrain and aircraft join with their displays. Main thread only.
+///
+/// | Name                  | Colour                            | Alpha                                     |
+/// |-----------------------|-----------------------------------|-------------------------------------------|
+/// | Solid                 | texture times the diffuse colour  | opaque                                    |
+/// | VertexAndTextureColor | texture times the vertex's        | opaque                                    |
+/// | VertexAlpha           | texture times the vertex's        | the vertex's                              |
+/// | TextureAlpha          | texture times the diffuse colour  | the texture's                             |
+/// | Alpha                 | texture times the vertex's        | the product of both                       |
+/// | AlphaRef              | texture times the vertex's        | opaque where the product is at least half |
+///
+/// A material of a blended type needs BlendOperation EBO_ADD: without, the engine loses blending after a 2-D draw of
+/// its own. Blended colours leave the right alpha in a render target.
 class MaterialManager {
 public:
     explicit MaterialManager(Context* context);
+    explicit MaterialManager(irr::IrrlichtDevice* device);
     ~MaterialManager();
 
     /// EMT_SOLID for an unknown name or where the driver refused the shader, with a line in the log.
     irr::video::E_MATERIAL_TYPE getMaterialType(const std::string& name) const;
 
 private:
-    void add(irr::IrrlichtDevice* device, const std::string& name, const char* vertex, const char* fragment,
-             irr::video::E_MATERIAL_TYPE base);
+    void add(irr::IrrlichtDevice* device, const char* name, const char* fragment, bool blended);
 
     std::map<std::string, irr::video::E_MATERIAL_TYPE> types_;
 };

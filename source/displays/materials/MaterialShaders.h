@@ -1,0 +1,12 @@
+#pragma once
+
+// The embedded sources of the 2-D materials, each ended by a NUL.
+extern "C" {
+extern const char skyvane_shader_simple_vert[];
+extern const char skyvane_shader_solid_frag[];
+extern const char skyvane_shader_vertexAlpha_frag[];
+extern const char skyvane_shader_textureAlpha_frag[];
+extern const char skyvane_shader_alpha_frag[];
+extern const char skyvane_shader_alphaRef_frag[];
+extern const char skyvane_shader_vertexAndTextureColor_frag[];
+}

@@ -1,0 +1,13 @@
+#ifdef GL_ES
+precision mediump float;
+#endif
+
+uniform sampler2D uTextureUnit0;
+uniform vec4 uDiffuseColor;
+
+varying vec4 vColor;
+varying vec2 vTexCoord;
+
+void main() {
+    gl_FragColor = vec4(texture2D(uTextureUnit0, vTexCoord).rgb * uDiffuseColor.rgb, 1.0);
+}

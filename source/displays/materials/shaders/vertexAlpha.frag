@@ -1,0 +1,12 @@
+#ifdef GL_ES
+precision mediump float;
+#endif
+
+uniform sampler2D uTextureUnit0;
+
+varying vec4 vColor;
+varying vec2 vTexCoord;
+
+void main() {
+    gl_FragColor = vec4(texture2D(uTextureUnit0, vTexCoord).rgb * vColor.rgb, vColor.a);
+}
