@@ -3,6 +3,7 @@
 #include "core/ICommonAppContext.h"
 #include "core/ScreenMetrics.h"
 #include "core/engine/EngineRef.h"
+#include "core/events/IEventHost.h"
 #include "sensors/ISensorHost.h"
 
 #include <irrlicht.h>
@@ -25,7 +26,7 @@ class ThreadInfo;
 
 /// The application: owns every manager, makes them in the order of need and ends them in reverse. Made by main, used
 /// on the main thread; other threads may read its pointers after construction and call getPath.
-class Context : public ICommonAppContext, public ISensorHost {
+class Context : public ICommonAppContext, public ISensorHost, public IEventHost {
 public:
     /// The device outlives the context. `full` false stops after the managers, before any factory is registered.
     Context(irr::IrrlichtDevice* device, const char* argv0, bool full);
@@ -71,7 +72,11 @@ public:
 
     /// The frame pacer: waits until at least 36 ms have passed since its last call.
     void yieldWhileInactive();
-    void OnMustFreeMemory();
+    void OnMustFreeMemory() override;
+    /// The next frame is saved as a picture before it is shown.
+    void OnScreenshotKey() override { screenshotWanted_ = true; }
+    /// Saves it when one is wanted; call it between the last drawing of a frame and endScene.
+    void saveWantedScreenshot();
     /// Tells the user on the screen when the file is missing, then ends the program with an orderly exit code.
     void assertExistance(const std::string& path);
 
@@ -94,6 +99,7 @@ private:
     std::unique_ptr<MaterialManager> materials_;
     unsigned lastFrameMilliseconds_ = 0;
     bool shallExit_ = false;
+    bool screenshotWanted_ = false;
 };
 
 } // namespace skyvane

@@ -1,3 +1,98 @@
-int main() {
-    return 0;
+#include "core/engine/DesktopSize.h"
+#include "core/engine/EngineRef.h"
+#include "core/engine/ShowState.h"
+#include "core/geometry/Rectangles.h"
+#include "core/system/CommandLine.h"
+#include "core/system/FrameStats.h"
+#include "core/time/Time.h"
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <irrlicht.h>
+
+using namespace skyvane;
+
+namespace {
+
+irr::core::dimension2d<irr::u32> windowSize(const CommandLine& line) {
+    if (line.kind == CommandLine::Sized)
+        return {line.width, line.height};
+    const irr::core::dimension2d<unsigned> desktop = readDesktopSize();
+    const irr::core::rect<int> most(0, 0, static_cast<int>(9 * desktop.Width / 10),
+                                    static_cast<int>(9 * desktop.Height / 10));
+    const irr::core::rect<int> window = makeXic(most, 1.7777778f);
+    return {static_cast<irr::u32>(window.getWidth()), static_cast<irr::u32>(window.getHeight())};
+}
+
+EngineRef<irr::IrrlichtDevice> openWindow(const CommandLine& line) {
+    auto device = EngineRef<irr::IrrlichtDevice>::adopt(
+        irr::createDevice(irr::video::EDT_OPENGL, windowSize(line), 32, line.fullscreen, true, false, nullptr));
+    if (device)
+        device->setResizable(false);
+    return device;
+}
+
+void prepareDevice(irr::IrrlichtDevice& device) {
+    irr::video::IVideoDriver* driver = device.getVideoDriver();
+    driver->setViewPort({irr::core::position2di(0, 0), irr::core::dimension2di(driver->getScreenSize())});
+    device.setWindowCaption(L"Skyvane");
+    device.getLogger()->setLogLevel(irr::ELL_DEBUG);
+}
+
+void closeWindow(irr::IrrlichtDevice& device) {
+    device.run();
+    irr::video::IVideoDriver* driver = device.getVideoDriver();
+    while (driver->getTextureCount() > 0)
+        driver->removeTexture(driver->getTextureByIndex(0));
+    device.run();
+    device.run();
+    device.closeDevice();
+    while (device.run())
+        Delay(1);
+}
+
+/// Why no window came, in words for the user.
+int reportNoWindow() {
+    std::fprintf(stderr, "Skyvane: no OpenGL window could be opened. Check that the graphics driver offers OpenGL 2 "
+                         "(glxinfo tells) and that the size fits the screen.\n");
+    return EXIT_FAILURE;
+}
+
+int runProgram(const CommandLine& line, const char* argv0) {
+    EngineRef<irr::IrrlichtDevice> device = openWindow(line);
+    if (!device)
+        return reportNoWindow();
+    std::signal(SIGPIPE, SIG_IGN);
+    prepareDevice(*device);
+    std::srand(static_cast<unsigned>(std::time(nullptr)));
+    while (device->run()) {
+        showState(device.get(), L"Skyvane");
+        Delay(36);
+    }
+    drawStateScreen(device.get(), L"Cleaning up, please wait...");
+    device->run();
+    closeWindow(*device);
+    device.reset();
+    std::puts("Skyvane Exit");
+    return EXIT_SUCCESS;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const CommandLine line = parseCommandLine(argc, argv);
+    if (line.kind == CommandLine::Bad)
+        std::fprintf(stderr, "Skyvane: %s\n", line.trouble.c_str());
+    if (line.kind == CommandLine::Bad || line.kind == CommandLine::Usage) {
+        std::puts(usageText);
+        return line.kind == CommandLine::Bad ? EXIT_FAILURE : EXIT_SUCCESS;
+    }
+    if (!isDisplayAvailable()) {
+        std::fprintf(stderr, "Skyvane: no display can be reached. Start it in a desktop session, or set DISPLAY to the "
+                             "X server that it shall use.\n");
+        return EXIT_FAILURE;
+    }
+    return runProgram(line, argv[0]);
 }

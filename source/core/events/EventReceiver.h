@@ -9,7 +9,7 @@
 
 namespace skyvane {
 
-class Context;
+class IEventHost;
 
 /// An engine receiver that offers each event to further receivers first.
 class IMultiEventReceiver : public irr::IEventReceiver {
@@ -23,7 +23,8 @@ public:
 /// memory warnings on the way. Main thread only.
 class EventReceiver : public IMultiEventReceiver {
 public:
-    EventReceiver(Context* context, unsigned capacity);
+    /// The host outlives the receiver. Joysticks are looked for once, here.
+    EventReceiver(IEventHost* host, unsigned capacity);
     ~EventReceiver() override;
 
     bool OnEvent(const irr::SEvent& event) override;
@@ -36,6 +37,8 @@ public:
     EventQueue& getEventQueue() { return queue_; }
 
     bool isKeyDown(irr::EKEY_CODE key) const;
+    /// Replaces the joysticks that were found at construction; their states start anew.
+    void setJoysticks(const irr::core::array<irr::SJoystickInfo>& joysticks);
     int getJoystickCount() const;
     /// Default-made for an index out of range.
     irr::SEvent::SJoystickEvent getJoystickStatus(int index) const;
@@ -59,11 +62,12 @@ private:
     void onJoystick(const irr::SEvent::SJoystickEvent& event);
     bool onKey(const irr::SEvent::SKeyInput& key);
     bool onBackKey();
+    bool isReachable(irr::gui::IGUIElement* element) const;
     bool offerToSubReceivers(const irr::SEvent& event);
     bool isInNoMouseBox(const irr::SEvent& event) const;
     Joystick* findJoystick(int id);
 
-    Context* context_;
+    IEventHost* host_;
     EventQueue queue_;
     std::vector<irr::IEventReceiver*> subReceivers_;
     std::vector<Joystick> joysticks_;

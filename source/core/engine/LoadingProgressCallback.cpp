@@ -1,0 +1,46 @@
+#include "core/engine/LoadingProgressCallback.h"
+
+#include "core/geometry/Rectangles.h"
+
+#include <algorithm>
+
+namespace skyvane {
+namespace {
+
+using Rect = irr::core::rect<irr::s32>;
+
+Rect fitted(const irr::core::dimension2d<irr::u32>& picture, const Rect& place) {
+    return makeXic(place, static_cast<float>(picture.Width) / static_cast<float>(std::max(picture.Height, 1u)));
+}
+
+} // namespace
+
+LoadingProgressCallback::LoadingProgressCallback(irr::IrrlichtDevice* device, irr::video::ITexture* texture, float step)
+    : device_(device), texture_(texture), step_(step) {}
+
+void LoadingProgressCallback::nextStep() {
+    progress_ = std::min(progress_ + step_, 1.0f);
+    draw();
+}
+
+void LoadingProgressCallback::draw() {
+    if (!device_->run())
+        return;
+    irr::video::IVideoDriver* driver = device_->getVideoDriver();
+    const Rect screen(irr::core::position2di(0, 0), irr::core::dimension2di(driver->getScreenSize()));
+    driver->beginScene(true, true, irr::video::SColor(255, 0, 0, 0));
+    if (texture_) {
+        const irr::core::dimension2d<irr::u32> size = texture_->getOriginalSize();
+        driver->draw2DImage(texture_, fitted(size, screen),
+                            Rect(irr::core::position2di(0, 0), irr::core::dimension2di(size)), nullptr, nullptr, true);
+    }
+    const irr::s32 height = std::max(screen.getHeight() / 90, 2);
+    Rect bar(screen.getWidth() / 4, screen.getHeight() * 9 / 10, screen.getWidth() * 3 / 4, 0);
+    bar.LowerRightCorner.Y = bar.UpperLeftCorner.Y + height;
+    driver->draw2DRectangle(irr::video::SColor(255, 48, 54, 64), bar);
+    bar.LowerRightCorner.X = bar.UpperLeftCorner.X + static_cast<irr::s32>(bar.getWidth() * progress_);
+    driver->draw2DRectangle(irr::video::SColor(255, 240, 244, 250), bar);
+    driver->endScene();
+}
+
+} // namespace skyvane
