@@ -1,0 +1,124 @@
+#include "flightfeed/command/Command.h"
+
+#include "flightfeed/card/CardParser.h"
+#include "flightfeed/command/Feed.h"
+#include "flightfeed/command/Options.h"
+#include "flightfeed/flight/HeldState.h"
+#include "flightfeed/flight/ScriptedFlight.h"
+#include "flightfeed/replay/CsvFlight.h"
+#include "flightfeed/replay/GzipFile.h"
+#include "flightfeed/send/UdpSender.h"
+
+#include <iostream>
+
+extern "C" const char flightfeed_demo_card[];
+extern "C" const char flightfeed_usage[];
+
+namespace skyvane {
+
+namespace {
+
+void complain(const std::string& words) {
+    std::cerr << "flightfeed: " << words << '\n';
+}
+
+std::unique_ptr<IFlightSource> openCard(const std::string& path) {
+    std::string text = flightfeed_demo_card, error;
+    if (!path.empty() && !readMaybeGzip(path, text, error)) {
+        complain(error);
+        return nullptr;
+    }
+    FlightCard card;
+    const std::vector<CardError> errors = parseCard(text, card);
+    for (const CardError& entry : errors)
+        complain((path.empty() ? "demo card" : path) + ": line " + std::to_string(entry.line) + ": " + entry.message);
+    if (!errors.empty())
+        return nullptr;
+    return std::make_unique<ScriptedFlight>(std::move(card));
+}
+
+std::unique_ptr<IFlightSource> openHeld(const std::string& text) {
+    auto held = std::make_unique<HeldState>();
+    std::string error;
+    if (held->set(text, error))
+        return held;
+    complain(error);
+    return nullptr;
+}
+
+// A recording of datagrams has no header row, and its first byte is never that of one.
+bool isTable(const std::string& content) {
+    return content.find("sim-time-sec") < content.find('\n');
+}
+
+FeedSettings settingsOf(const Options& options) {
+    return {options.ratePerSecond, options.durationSeconds, options.fromSeconds, options.loop};
+}
+
+int replayDatagrams(const Options& options, std::string content, IDatagramSink& sink, TruthPrinter* printer) {
+    DatagramRecording recording;
+    std::string error;
+    if (options.protocol != findProtocol("flightgear"))
+        error = "these are FlightGear's datagrams, they can't be sent as another protocol";
+    if (!error.empty() || !recording.read(std::move(content), error)) {
+        complain(options.replay + ": " + error);
+        return 1;
+    }
+    ClockPacer pacer(options.speed);
+    feedRecording(recording, sink, printer, pacer, settingsOf(options));
+    return 0;
+}
+
+int fly(const Options& options, IFlightSource* source, IDatagramSink& sink, TruthPrinter* printer) {
+    if (!source)
+        return 1;
+    const std::unique_ptr<IProtocolSender> sender = options.protocol->make();
+    ClockPacer pacer(options.speed);
+    feedFlight(*source, *sender, sink, printer, pacer, settingsOf(options));
+    return 0;
+}
+
+int replay(const Options& options, IDatagramSink& sink, TruthPrinter* printer) {
+    std::string content, error;
+    if (!readMaybeGzip(options.replay, content, error)) {
+        complain(error);
+        return 1;
+    }
+    if (!isTable(content))
+        return replayDatagrams(options, std::move(content), sink, printer);
+    const std::unique_ptr<CsvFlight> flight = CsvFlight::read(content, error);
+    if (!flight)
+        complain(options.replay + ": " + error);
+    return fly(options, flight.get(), sink, printer);
+}
+
+} // namespace
+
+int runFlightFeed(const std::vector<std::string>& arguments) {
+    Options options;
+    std::string error;
+    if (!parseOptions(arguments, options, error)) {
+        complain(error + "; --help tells more");
+        return 2;
+    }
+    if (options.help) {
+        std::cout << flightfeed_usage;
+        return 0;
+    }
+    const int port = options.port > 0 ? options.port : options.protocol->port;
+    const std::unique_ptr<UdpSender> sink = UdpSender::open(options.host, port, error);
+    if (!sink) {
+        complain(error);
+        return 1;
+    }
+    TruthPrinter printer(std::cout);
+    if (options.print)
+        printer.printHeader();
+    TruthPrinter* const print = options.print ? &printer : nullptr;
+    if (!options.replay.empty())
+        return replay(options, *sink, print);
+    const std::unique_ptr<IFlightSource> source = options.hold ? openHeld(options.state) : openCard(options.card);
+    return fly(options, source.get(), *sink, print);
+}
+
+} // namespace skyvane

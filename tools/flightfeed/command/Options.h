@@ -1,0 +1,31 @@
+#pragma once
+
+#include "flightfeed/send/ProtocolList.h"
+
+#include <string>
+#include <vector>
+
+namespace skyvane {
+
+/// What the command line asks for.
+struct Options {
+    const Protocol* protocol = findProtocol("flightgear");
+    std::string host = "127.0.0.1";
+    int port = 0; ///< 0: the protocol's own
+    double ratePerSecond = 30.0;
+    double speed = 1.0;           ///< flight seconds per second; 0: as fast as it goes
+    double durationSeconds = 0.0; ///< of the flight; 0: to its end
+    double fromSeconds = 0.0;     ///< flown without sending
+    std::string card;             ///< a file, empty for the built-in one
+    std::string replay;           ///< a recording
+    bool hold = false;
+    std::string state;
+    bool print = false;
+    bool loop = false;
+    bool help = false;
+};
+
+/// False, with the words in `error`, when an argument is unknown or its value doesn't fit.
+bool parseOptions(const std::vector<std::string>& arguments, Options& options, std::string& error);
+
+} // namespace skyvane
