@@ -144,9 +144,13 @@ TEST(FlightKinematics, SpecificForceIsTheAccelerationOfThePathLessGravity) {
 }
 
 TEST(FlightKinematics, TurnRateFitsBankAndSpeed) {
+    // The formula holds for a level turn at a steady speed and bank, which is looked for.
+    const auto& states = demo();
     int seen = 0;
-    for (const FlightState& s : demo()) {
-        const bool settled = !s.onGround && std::abs(s.rollRateRadiansPerSecond) < 0.005 &&
+    for (size_t i = 1; i + 1 < states.size(); ++i) {
+        const FlightState& s = states[i];
+        const double speedRate = slope(states[i - 1].trueAirspeedKnots, states[i + 1].trueAirspeedKnots);
+        const bool settled = !s.onGround && std::abs(s.rollRateRadiansPerSecond) < 0.005 && std::abs(speedRate) < 0.1 &&
                              std::abs(s.verticalSpeedMetresPerSecond) < 0.05 && std::abs(ballAngleDegrees(s)) < 0.05;
         if (!settled || std::abs(s.rollDegrees) < 10.0)
             continue;

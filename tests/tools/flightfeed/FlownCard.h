@@ -2,18 +2,16 @@
 
 #include "flightfeed/card/CardParser.h"
 #include "flightfeed/flight/ScriptedFlight.h"
+#include "tools/flightfeed/ProjectFile.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <string>
 #include <vector>
 
 namespace skyvane {
 
 inline std::string cardText(const std::string& name) {
-    std::ifstream in(std::string(SKYVANE_SOURCE_DIR) + "/tools/flightfeed/cards/" + name);
-    return {std::istreambuf_iterator<char>(in), {}};
+    return projectFile("tools/flightfeed/cards/" + name);
 }
 
 /// Every state of a card's flight, at that spacing.
