@@ -12,7 +12,8 @@ namespace skyvane {
 /// seekable input can't hold at zlib's best ratio. A stream that gives more or fewer bytes than claimed is refused.
 constexpr int longestCompressedBlock = 256 * 1024 * 1024;
 
-/// Level 9; the length isn't negative. 0, or zlib's error of its initialisation; a write that fails shows in the stream.
+/// Level 9; the length isn't negative. 0, or zlib's error of its initialisation; a write that fails shows in the
+/// stream.
 int compressBufferToFile(std::ostream& out, const unsigned char* data, int length);
 
 /// The block's bytes and their number; null for a length below 1 and for every error. The input is left behind the

@@ -30,7 +30,7 @@ public:
     /// The same for text in UTF-8.
     void parseFromUTF8(const std::string& bytes);
     /// The same for a file of the engine's file system; the result is empty when it can't be opened. This one operation
-    /// belongs to the upper floor: its definition stands in core/engine/IniAssets.cpp.
+    /// belongs to the upper floor: its definition stands in core/engine/AssetFiles.cpp.
     void parseFromUTF8File(irr::io::IFileSystem* files, const char* path);
 
     const std::vector<Row>& getResult() const { return rows_; }

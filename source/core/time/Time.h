@@ -1,5 +1,7 @@
 #pragma once
 
+#include <atomic>
+
 namespace skyvane {
 
 /// Where the program's time comes from. A test puts its own clock in place and moves it by hand.
@@ -28,15 +30,22 @@ void Delay(int milliseconds);
 /// a - b for a >= b. For a < b the result is 2 * a, by definition: callers hand in "now" first.
 unsigned TimeDiff(unsigned a, unsigned b);
 
-/// A clock that stands still until a test moves it. Delay moves it too.
+/// A clock that stands still until a test moves it. Delay moves it too, from whatever thread.
 class ManualClock : public IClock {
 public:
     double seconds() override { return now_; }
-    void delay(int milliseconds) override { now_ += milliseconds > 0 ? milliseconds / 1000.0 : 0.0; }
-    void advance(double seconds) { now_ += seconds; }
+    void delay(int milliseconds) override {
+        if (milliseconds > 0)
+            advance(milliseconds / 1000.0);
+    }
+    void advance(double seconds) {
+        double before = now_;
+        while (!now_.compare_exchange_weak(before, before + seconds)) {
+        }
+    }
 
 private:
-    double now_ = 0.0;
+    std::atomic<double> now_{0.0};
 };
 
 } // namespace skyvane
