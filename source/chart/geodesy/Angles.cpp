@@ -5,25 +5,33 @@
 namespace skyvane {
 
 double Angle0to360(double degrees) {
-    const double wrapped = std::fmod(degrees, 360.0);
-    if (!(wrapped < 0.0))
-        return wrapped;
-    const double raised = wrapped + 360.0;
-    return raised < 360.0 ? raised : 0.0; // a tiny negative number rounds up to 360
+    double angle = std::fmod(degrees, 360.0);
+    if (angle < 0.0)
+        angle += 360.0;
+    // The sum of a tiny negative number and 360 rounds to 360.
+    return angle < 360.0 ? angle : angle - 360.0;
+}
+
+double Angle360(double degrees) {
+    return degrees == 360.0 ? degrees : Angle0to360(degrees);
 }
 
 double Angle180(double degrees) {
-    const double wrapped = std::fmod(degrees, 360.0);
-    if (wrapped > 180.0)
-        return wrapped - 360.0;
-    return wrapped < -180.0 ? wrapped + 360.0 : wrapped;
+    const double angle = std::fmod(degrees, 360.0);
+    if (angle > 180.0)
+        return angle - 360.0;
+    return angle < -180.0 ? angle + 360.0 : angle;
+}
+
+irr::core::vector3d<double> Angle180(const irr::core::vector3d<double>& degrees) {
+    return irr::core::vector3d<double>(Angle180(degrees.X), Angle180(degrees.Y), Angle180(degrees.Z));
 }
 
 double Latitudinize(double degrees) {
-    const double wrapped = Angle180(degrees);
-    if (wrapped > 90.0)
-        return 180.0 - wrapped;
-    return wrapped < -90.0 ? -180.0 - wrapped : wrapped;
+    const double angle = Angle180(degrees);
+    if (angle > 90.0)
+        return 180.0 - angle;
+    return angle < -90.0 ? -180.0 - angle : angle;
 }
 
 } // namespace skyvane

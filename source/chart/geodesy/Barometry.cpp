@@ -1,0 +1,23 @@
+#include "chart/geodesy/Barometry.h"
+
+#include <cmath>
+
+namespace skyvane {
+namespace {
+
+constexpr double ScaleHeightMetres = 44330.0;
+constexpr double PressureExponent = 5.255;
+/// The inverse of the exponent.
+constexpr double AltitudeExponent = 0.19029495718363465;
+
+} // namespace
+
+double calcAltitudeFromPressure(double pressure, double seaLevelPressure) {
+    return (1.0 - std::pow(pressure / seaLevelPressure, AltitudeExponent)) * ScaleHeightMetres;
+}
+
+double calcSeaLevelPressure(double altitude, double pressure) {
+    return std::pow(1.0 - altitude / ScaleHeightMetres, -PressureExponent) * pressure;
+}
+
+} // namespace skyvane

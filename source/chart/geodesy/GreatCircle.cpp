@@ -1,0 +1,68 @@
+#include "chart/geodesy/GreatCircle.h"
+
+#include "chart/geodesy/Angles.h"
+#include "chart/geodesy/EarthConstants.h"
+#include "chart/geodesy/LocalFrame.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace skyvane {
+namespace {
+
+using Vector = irr::core::vector3d<double>;
+
+/// Straight length between two unit vectors below which the planar way is taken.
+constexpr double PlanarChord = 0.001;
+
+double clampedAcos(double cosine) {
+    return std::acos(std::min(1.0, std::max(-1.0, cosine)));
+}
+
+/// The part of v that stands upright on the unit vector, normalised; a vector of no length stays so.
+Vector directionAcross(const Vector& v, const Vector& unit) {
+    Vector across = v - unit * unit.dotProduct(v);
+    return across.normalize();
+}
+
+/// From an angle to the reference direction and a component that tells the side; below 360.
+double bearingOf(double angleDegrees, double eastComponent) {
+    return Angle0to360(eastComponent < 0.0 ? 360.0 - angleDegrees : angleDegrees);
+}
+
+} // namespace
+
+double calcDistance2(const ChartPosition& from, const ChartPosition& to) {
+    const Vector a = calcVectorFromChartPositionf64(from.longitude, from.latitude);
+    const Vector b = calcVectorFromChartPositionf64(to.longitude, to.latitude);
+    if ((b - a).getLength() < PlanarChord)
+        return ChartPosition2Vector3df64(from, to, 0.0).getLength();
+    return EarthRadiusMetres * clampedAcos(a.dotProduct(b));
+}
+
+double calcBearing2(const ChartPosition& from, const ChartPosition& to) {
+    const Vector a = calcVectorFromChartPositionf64(from.longitude, from.latitude);
+    const Vector b = calcVectorFromChartPositionf64(to.longitude, to.latitude);
+    if ((b - a).getLength() >= PlanarChord)
+        return calcBearing(a, b);
+    Vector direction = ChartPosition2Vector3df64(from, to, 0.0);
+    direction.normalize();
+    return bearingOf(clampedAcos(direction.Z) * DegreesPerRadian, direction.X);
+}
+
+double calcBearing(Vector from, Vector to) {
+    const Vector a = from.normalize();
+    const Vector b = to.normalize();
+    const Vector north = directionAcross(Vector(0.0, 1.0, 0.0), a);
+    const Vector target = directionAcross(b, a);
+    const Vector east = a.crossProduct(north);
+    return bearingOf(clampedAcos(north.dotProduct(target)) * DegreesPerRadian, target.dotProduct(east));
+}
+
+Vector calcVectorFromChartPositionf64(double longitude, double latitude) {
+    const double lon = longitude / DegreesPerRadian;
+    const double lat = latitude / DegreesPerRadian;
+    return Vector(std::cos(lon) * std::cos(lat), std::sin(lat), std::sin(lon) * std::cos(lat));
+}
+
+} // namespace skyvane
