@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/engine/EngineRef.h"
+#include "gui/font/TextMesh.h"
 #include <irrlicht.h>
 #include <string>
 
@@ -13,8 +15,8 @@ class FlexibleFont;
 ///     label.set(font, L"KT", color);          // each frame; cheap while nothing changes
 ///     label.draw(rect, {0.5f, 0.5f}, true, true);
 ///
-/// Neither set() nor draw() allocates while the text stays, nor for a text no longer than any before. The font must
-/// outlive the text or be replaced by set(). Main thread only.
+/// Neither set() nor draw() allocates while the text stays, nor for a text no longer than any before. Keeps
+/// a reference to its font. Main thread only.
 class CachedText {
 public:
     CachedText();
@@ -34,19 +36,15 @@ public:
                      const irr::core::vector2d<float>& scale, float rotationDegrees) const;
 
     /// Pixels at scale 1; empty before the first set().
-    const irr::core::dimension2d<irr::u32>& getDimension() const { return dimension_; }
-    const std::wstring& getText() const { return text_; }
+    const irr::core::dimension2d<irr::u32>& getDimension() const { return mesh_.getDimension(); }
+    const std::wstring& getText() const { return mesh_.getText(); }
     unsigned long getRebuilds() const { return rebuilds_; }
 
 private:
-    void rebuild();
+    static TextMesh::Look lookOf(const FlexibleFont& font, bool centered);
 
-    FlexibleFont* font_ = nullptr;
-    std::wstring text_;
-    irr::video::SColor color_{0xFFFFFFFF};
-    bool centered_ = false;
-    irr::scene::SMeshBuffer* mesh_;
-    irr::core::dimension2d<irr::u32> dimension_{0, 0};
+    EngineRef<FlexibleFont> font_;
+    TextMesh mesh_;
     unsigned long rebuilds_ = 0;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/engine/EngineRef.h"
 #include "displays/drawing/Camera2DParameterCalculator.h"
 #include "gui/font/FlexibleFontManager.h"
 #include "gui/font/IFontLoader.h"
@@ -120,8 +121,13 @@ public:
     unsigned long getDrawRebuilds() const;
 
 private:
+    void setMaterial(irr::video::SMaterial& material, irr::video::E_MATERIAL_TYPE type, bool bilinear) const;
+    void setTransforms(const irr::core::rect<irr::s32>& viewPort, const Placement& placement);
+    void setShaderState(const DrawStyle& style, const irr::core::vector2d<float>& scale) const;
+
     FlexibleFontManager* manager_;
     IFontLoader::Font definition_;
+    EngineRef<irr::video::ITexture> page_;
     Camera2DParameterCalculator camera_;
     std::unique_ptr<TextMeshCache> cache_;
     irr::core::vector2d<float> scale_{1.0f, 1.0f};

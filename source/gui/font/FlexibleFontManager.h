@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/engine/EngineRef.h"
+#include <functional>
 #include <irrlicht.h>
 #include <map>
 #include <memory>
@@ -50,16 +52,22 @@ public:
     irr::video::SColor getBorderColor() const { return borderColor_; }
     const Shadow& getShadow() const { return shadow_; }
 
+    /// What has to happen before a text is drawn, so that it lies over what was drawn earlier: whoever gathers draws
+    /// empties its batch here.
+    void setBeforeDraw(std::function<void()> beforeDraw) { beforeDraw_ = std::move(beforeDraw); }
+    void prepareDraw() const;
+
     /// Finds the callback of the material; OnSetConstants() forwards to it.
     void OnSetMaterial(const irr::video::SMaterial& material) override;
     void OnSetConstants(irr::video::IMaterialRendererServices* services, irr::s32 userData) override;
 
 private:
-    irr::video::E_MATERIAL_TYPE addMaterial(const std::string& defines, std::unique_ptr<SDFFCallback> callback);
+    irr::video::E_MATERIAL_TYPE addMaterial(const char* defines, std::unique_ptr<SDFFCallback> callback);
+    EngineRef<FlexibleFont> load(const std::string& path) const;
 
     irr::IrrlichtDevice* device_;
-    std::vector<IFontLoader*> loaders_;
-    std::map<std::string, FlexibleFont*> fonts_;
+    std::vector<EngineRef<IFontLoader>> loaders_;
+    std::map<std::string, EngineRef<FlexibleFont>> fonts_;
     std::map<int, std::unique_ptr<SDFFCallback>> callbacks_; ///< By material type.
     SDFFCallback* current_ = nullptr;
     irr::video::E_MATERIAL_TYPE plainType_;
@@ -69,6 +77,7 @@ private:
     float borderSize_ = 0.0f;
     irr::video::SColor borderColor_{0xFF000000};
     Shadow shadow_;
+    std::function<void()> beforeDraw_;
 };
 
 } // namespace skyvane

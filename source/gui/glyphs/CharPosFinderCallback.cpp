@@ -3,7 +3,7 @@
 namespace skyvane {
 
 void CharPosFinderCallback::OnCharacter(const FontCharacter& character, int index, int x, int) {
-    if (found_ || x - character.xoffset <= searchedX_)
+    if (found_ || static_cast<float>(x - character.xoffset) <= searchedX_)
         return;
     found_ = true;
     index_ = index - 1;

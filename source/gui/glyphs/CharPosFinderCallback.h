@@ -7,7 +7,7 @@ namespace skyvane {
 /// Finds the index before the first glyph whose pen position lies right of a place.
 class CharPosFinderCallback : public ICharacterCallback {
 public:
-    explicit CharPosFinderCallback(int x) : searchedX_(x) {}
+    explicit CharPosFinderCallback(float x) : searchedX_(x) {}
     void OnCharacter(const FontCharacter& character, int index, int x, int y) override;
     void OnLineFinished(int) override {}
 
@@ -15,7 +15,7 @@ public:
     int getIndex() const { return index_; }
 
 private:
-    int searchedX_;
+    float searchedX_;
     int index_ = -1;
     bool found_ = false;
 };

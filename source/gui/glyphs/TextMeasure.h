@@ -10,8 +10,12 @@ namespace skyvane {
 irr::core::dimension2d<irr::u32> measureText(const wchar_t* text, size_t length, int tabSize,
                                              const FontDefinition& font, const irr::core::vector2d<float>& scale);
 
+/// A size in pixels at scale 1, scaled and rounded as measureText() does.
+irr::core::dimension2d<irr::u32> scaleDimension(const irr::core::dimension2d<irr::u32>& dimension,
+                                                const irr::core::vector2d<float>& scale);
+
 /// The index before the first glyph whose pen position lies right of `x` (pixels at scale 1), -1 when there is none.
-int findCharacterAt(const wchar_t* text, size_t length, int tabSize, const FontDefinition& font, int x);
+int findCharacterAt(const wchar_t* text, size_t length, int tabSize, const FontDefinition& font, float x);
 
 /// The larger scale at which a text of this size (measured at scale 1) still fits into the target.
 float optimalScale(const irr::core::dimension2d<irr::u32>& text, const irr::core::dimension2d<irr::u32>& target);
