@@ -62,6 +62,15 @@ void pack(const AtlasOptions& options, std::vector<PendingGlyph>& glyphs, Atlas&
     }
 }
 
+/// Cuts off what lies below the lowest glyph.
+void trim(Atlas& atlas) {
+    int lowest = 0;
+    for (const auto& entry : atlas.font.characters)
+        lowest = std::max(lowest, entry.second.y + entry.second.height);
+    atlas.page.height = std::min(atlas.page.height, lowest + gapBetweenGlyphs);
+    atlas.page.pixels.resize(static_cast<size_t>(atlas.page.width) * atlas.page.height);
+}
+
 } // namespace
 
 Atlas buildAtlas(const AtlasOptions& options, const FontFiles& files, const CharacterList& list) {
@@ -82,6 +91,7 @@ Atlas buildAtlas(const AtlasOptions& options, const FontFiles& files, const Char
             atlas.missing.push_back(character);
     }
     pack(options, glyphs, atlas);
+    trim(atlas);
     files.collectKernings(list.characters, atlas.font.kernings);
     return atlas;
 }

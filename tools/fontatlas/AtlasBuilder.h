@@ -11,7 +11,7 @@ struct AtlasOptions {
     int spread = 4; ///< Pixels from an edge to the end of the field.
     int oversampling = 16;
     int pageWidth = 1024;
-    int pageHeight = 1024;
+    int pageHeight = 1024; ///< At most.
 };
 
 /// One page of distance fields, and where its glyphs lie.

@@ -37,7 +37,7 @@ bool write(const std::string& output, const std::string& face, const AtlasOption
     FntPage page;
     page.face = face;
     page.file = output.substr(output.find_last_of('/') + 1) + ".png";
-    page.size = {static_cast<irr::u32>(options.pageWidth), static_cast<irr::u32>(options.pageHeight)};
+    page.size = {static_cast<irr::u32>(atlas.page.width), static_cast<irr::u32>(atlas.page.height)};
     page.spread = options.spread;
     return writeFile(output + ".fnt", writeFntText(atlas.font, page)) &&
            writeFile(output + ".png", makeWhitePng(atlas.page));
