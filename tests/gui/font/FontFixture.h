@@ -5,6 +5,7 @@
 #include "gui/font/FlexibleFont.h"
 #include "gui/font/FlexibleFontManager.h"
 #include "support/GlDevice.h"
+#include "support/SourceFolder.h"
 #include <string>
 
 namespace skyvane {
@@ -23,7 +24,7 @@ struct FontFixture {
     }
 
     FlexibleFont* load(const char* file) {
-        FlexibleFont* font = manager->getFont(std::string(SKYVANE_SOURCE_DIR "/media/sdff/") + file);
+        FlexibleFont* font = manager->getFont(sourceFolder() + "media/sdff/" + file);
         if (font)
             font->setDefaultMaterialType(manager->getSDFFMaterialType());
         return font;
