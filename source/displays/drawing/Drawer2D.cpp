@@ -50,11 +50,40 @@ void Drawer2D::State::updateMirroring() {
 }
 
 void Drawer2D::State::addQuad(const QuadPoints& places, const QuadPoints& textureCoordinates) {
-    const irr::u16 first = batch.room(4, 6);
+    const unsigned first = batch.room(4, 6);
     for (int i = 0; i < 4; ++i)
         batch.vertex(places.corner[i], textureCoordinates.corner[i], colors[i]);
     batch.triangle(first, first + 1, first + 2);
     batch.triangle(first + 1, first + 3, first + 2);
+}
+
+void Drawer2D::State::addArc(Point2f centre, float inner, float outer, float fromDegrees, float toDegrees,
+                             int segments) {
+    // Four rings: the alpha falls to zero over one pixel at both edges.
+    struct Ring {
+        float radius;
+        float across;
+        irr::video::SColor color;
+    };
+    const float soft = std::min(softEdge, 0.5f * (outer - inner));
+    const Ring rings[4] = {{outer + soft, 0.0f, transparent(colors[0])},
+                           {outer - soft, 0.0f, colors[0]},
+                           {inner + soft, 1.0f, colors[2]},
+                           {std::max(0.0f, inner - soft), 1.0f, transparent(colors[2])}};
+    const auto steps = static_cast<unsigned>(segments);
+    const unsigned first = batch.room(4 * (steps + 1), 18 * steps);
+    for (unsigned i = 0; i <= steps; ++i) {
+        const float share = static_cast<float>(i) / steps;
+        const Point2f direction = clockDirection(fromDegrees + (toDegrees - fromDegrees) * share);
+        for (const Ring& ring : rings)
+            batch.vertex(centre + direction * ring.radius, Point2f(share, ring.across), ring.color);
+    }
+    for (unsigned here = first; here < first + 4 * steps; here += 4) {
+        for (unsigned ring = here; ring < here + 3; ++ring) {
+            batch.triangle(ring, ring + 4, ring + 1);
+            batch.triangle(ring + 4, ring + 5, ring + 1);
+        }
+    }
 }
 
 Drawer2D::Drawer2D(irr::IrrlichtDevice* device)
@@ -103,23 +132,10 @@ void Drawer2D::DrawArc(irr::video::ITexture* texture, Position centre, float rad
         return;
     if (fromDegrees > toDegrees)
         std::swap(fromDegrees, toDegrees);
-    const int segments = arcSegments(toDegrees - fromDegrees, stepDegrees);
     const float outer = radius + pivotY * width;
-    const float inner = std::max(0.0f, outer - width);
-    const auto vertices = static_cast<unsigned>(2 * (segments + 1));
     state_->batch.use(texture);
-    const irr::u16 first = state_->batch.room(vertices, 3 * vertices);
-    for (int i = 0; i <= segments; ++i) {
-        const float share = static_cast<float>(i) / segments;
-        const Point2f direction = clockDirection(fromDegrees + (toDegrees - fromDegrees) * share);
-        state_->batch.vertex(toFloat(centre) + direction * outer, Point2f(share, 0.0f), state_->colors[0]);
-        state_->batch.vertex(toFloat(centre) + direction * inner, Point2f(share, 1.0f), state_->colors[2]);
-    }
-    for (int i = 0; i < segments; ++i) {
-        const auto here = static_cast<irr::u16>(first + 2 * i);
-        state_->batch.triangle(here, here + 2, here + 1);
-        state_->batch.triangle(here + 2, here + 3, here + 1);
-    }
+    state_->addArc(toFloat(centre), std::max(0.0f, outer - width), outer, fromDegrees, toDegrees,
+                   arcSegments(toDegrees - fromDegrees, stepDegrees));
 }
 
 void Drawer2D::setColor(irr::video::SColor color) {

@@ -33,7 +33,7 @@ public:
     /// `pivotY` 0.5 centres the width on the line. Nothing for an empty line.
     void DrawLine(irr::video::ITexture* texture, Position from, Position to, int width, float pivotY = 0.5f);
     /// Angles in degrees, 0 up, clockwise: the direction (-cos(a + 90), -sin(a + 90)). `pivotY` says where the radius
-    /// lies across the width: 0 outer edge, 1 inner edge.
+    /// lies across the width: 0 outer edge, 1 inner edge. Both edges are soft over one pixel.
     void DrawArc(irr::video::ITexture* texture, Position centre, float radius, float fromDegrees, float toDegrees,
                  float stepDegrees, int width, float pivotY = 0.0f);
     void DrawPolygon(irr::video::ITexture* texture, const std::vector<Position>& points, int width);

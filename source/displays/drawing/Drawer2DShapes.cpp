@@ -8,14 +8,6 @@ namespace skyvane {
 
 namespace {
 
-/// Half of the soft edge of rounded boxes, in pixels: the alpha falls to zero over one pixel.
-constexpr float softEdge = 0.5f;
-
-irr::video::SColor transparent(irr::video::SColor color) {
-    color.setAlpha(0);
-    return color;
-}
-
 /// Vertices of a filled outline with a soft edge: a centre, then for each point one inside and one outside.
 /// `Sink` takes vertex(Point2f, SColor) and triangle(unsigned, unsigned, unsigned), indices from 0.
 template <class Sink>
@@ -50,13 +42,10 @@ struct MeshSink {
 
 struct BatchSink {
     TriangleBatch& batch;
-    irr::u16 first;
+    unsigned first;
 
     void vertex(Point2f place, irr::video::SColor color) { batch.vertex(place, Point2f(0, 0), color); }
-    void triangle(unsigned a, unsigned b, unsigned c) {
-        batch.triangle(static_cast<irr::u16>(first + a), static_cast<irr::u16>(first + b),
-                       static_cast<irr::u16>(first + c));
-    }
+    void triangle(unsigned a, unsigned b, unsigned c) { batch.triangle(first + a, first + b, first + c); }
 };
 
 void startMesh(irr::scene::SMeshBuffer* mesh, const irr::video::SMaterial& look, irr::video::ITexture* texture) {
@@ -92,7 +81,7 @@ bool Drawer2D::State::triangulate() {
 }
 
 void Drawer2D::State::addPlainQuad(const Rect2f& rect, irr::video::SColor color) {
-    const irr::u16 first = batch.room(4, 6);
+    const unsigned first = batch.room(4, 6);
     for (const Point2f& place : quadOfRect(rect).corner)
         batch.vertex(place, Point2f(0, 0), color);
     batch.triangle(first, first + 1, first + 2);
@@ -114,7 +103,7 @@ void Drawer2D::DrawFilledPolygon(const std::vector<Position>& points) {
         return;
     state_->batch.use(nullptr);
     for (size_t i = 0; i + 2 < state_->corners.size(); i += 3) {
-        const irr::u16 first = state_->batch.room(3, 3);
+        const unsigned first = state_->batch.room(3, 3);
         for (size_t k = i; k < i + 3; ++k)
             state_->batch.vertex(state_->corners[k], Point2f(0, 0), state_->colors[0]);
         state_->batch.triangle(first, first + 1, first + 2);
@@ -174,7 +163,7 @@ void Drawer2D::drawRectWithCorner(const irr::core::rect<int>& rect, int radius, 
     roundedRectOutline(area, static_cast<float>(radius), state_->outline, state_->normals);
     state_->batch.use(nullptr);
     const auto points = static_cast<unsigned>(state_->outline.size());
-    const irr::u16 first = state_->batch.room(1 + 2 * points, 9 * points);
+    const unsigned first = state_->batch.room(1 + 2 * points, 9 * points);
     emitSoftShape(state_->outline, state_->normals, area.getCenter(), color, BatchSink{state_->batch, first});
 }
 

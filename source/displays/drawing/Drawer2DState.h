@@ -5,6 +5,14 @@
 
 namespace skyvane {
 
+/// Half of the width over which the alpha of soft edges falls to zero, in pixels.
+constexpr float softEdge = 0.5f;
+
+inline irr::video::SColor transparent(irr::video::SColor color) {
+    color.setAlpha(0);
+    return color;
+}
+
 /// What Drawer2D keeps between calls: the batch, the look of the next quad, and memory for polygons.
 struct Drawer2D::State {
     explicit State(irr::video::IVideoDriver* driver) : batch(driver) {
@@ -18,6 +26,7 @@ struct Drawer2D::State {
     void setTextureCoordinates(const Point2f* four);
     void updateMirroring();
     void addQuad(const QuadPoints& places, const QuadPoints& coordinates);
+    void addArc(Point2f centre, float inner, float outer, float fromDegrees, float toDegrees, int segments);
     void addPlainQuad(const Rect2f& rect, irr::video::SColor color);
     /// Triangulates into `corners`, three points a triangle. False for a polygon that has no inside.
     bool triangulate();

@@ -98,20 +98,20 @@ void TriangleBatch::setTextureWrap(bool clampU, bool clampV) {
     layer.TextureWrapV = mode(clampV);
 }
 
-irr::u16 TriangleBatch::room(unsigned vertices, unsigned indices) {
+unsigned TriangleBatch::room(unsigned vertices, unsigned indices) {
     if (vertices_.size() + vertices > maximumVertices || indices_.size() + indices > 6 * maximumVertices)
         draw();
-    return static_cast<irr::u16>(vertices_.size());
+    return static_cast<unsigned>(vertices_.size());
 }
 
 void TriangleBatch::vertex(Point2f position, Point2f texture, irr::video::SColor color) {
     vertices_.emplace_back(position.X, position.Y, 0.0f, 0.0f, 0.0f, -1.0f, color, texture.X, texture.Y);
 }
 
-void TriangleBatch::triangle(irr::u16 a, irr::u16 b, irr::u16 c) {
-    indices_.push_back(a);
-    indices_.push_back(b);
-    indices_.push_back(c);
+void TriangleBatch::triangle(unsigned a, unsigned b, unsigned c) {
+    indices_.push_back(static_cast<irr::u16>(a));
+    indices_.push_back(static_cast<irr::u16>(b));
+    indices_.push_back(static_cast<irr::u16>(c));
 }
 
 void TriangleBatch::draw() {

@@ -30,9 +30,9 @@ public:
 
     /// Makes room, drawing first where the arrays are full, and gives the index of the next vertex. At most
     /// maximumVertices vertices and six times as many indices at once.
-    irr::u16 room(unsigned vertices, unsigned indices);
+    unsigned room(unsigned vertices, unsigned indices);
     void vertex(Point2f position, Point2f texture, irr::video::SColor color);
-    void triangle(irr::u16 a, irr::u16 b, irr::u16 c);
+    void triangle(unsigned a, unsigned b, unsigned c);
 
     void flush();
     /// With auto reset, each flush leaves identity transforms.
