@@ -1,0 +1,88 @@
+#include "displays/layout/PageLayout.h"
+
+#include "core/ini/IniFile.h"
+#include "core/text/Numbers.h"
+
+#include <algorithm>
+
+namespace skyvane {
+
+namespace {
+
+std::string valueOf(IniFile& ini, const std::string& section, const char* key) {
+    return ini.isAvailable(section, key) ? ini.get(section, key) : std::string();
+}
+
+int pageOf(IniFile& ini, const std::string& section) {
+    return std::max(0, std::min(toInt(valueOf(ini, section, "Page")), PageLayout::maximumPage));
+}
+
+template <class Visit>
+void forEachPanelSection(IniFile& ini, Visit visit) {
+    const int count = std::min(toInt(valueOf(ini, "", "PanelCount")), PageLayout::maximumPanels);
+    for (int i = 0; i < count; ++i) {
+        const std::string section = "P" + toText(i);
+        if (ini.isSectionAvailable(section))
+            visit(section);
+    }
+}
+
+PanelFractions fractionsOf(IniFile& ini, const std::string& section) {
+    const auto number = [&](const char* key) { return toDouble(valueOf(ini, section, key)); };
+    return {number("ViewPortSX"), number("ViewPortSY"), number("ViewPortTX"), number("ViewPortTY")};
+}
+
+/// Truncated; a hundred screens off is as good as any number beyond. NaN is 0.
+int pixels(double fraction, int extent, int offset) {
+    const double limited = fraction >= -100.0 ? std::min(fraction, 100.0) : fraction < -100.0 ? -100.0 : 0.0;
+    return static_cast<int>(limited * extent + offset);
+}
+
+} // namespace
+
+irr::core::rect<int> panelRect(const PanelFractions& fractions, const PanelArea& area) {
+    const int height = area.bottom - area.top;
+    irr::core::rect<int> rect(pixels(fractions.left, area.width, 0), pixels(fractions.top, height, area.top),
+                              pixels(fractions.right, area.width, 0), pixels(fractions.bottom, height, area.top));
+    rect.repair();
+    return rect;
+}
+
+PageLayout PageLayout::read(IniFile& ini, const PanelArea& area, bool portrait) {
+    PageLayout layout;
+    forEachPanelSection(ini, [&](const std::string& section) {
+        const int page = pageOf(ini, section);
+        layout.pageCount = std::max(layout.pageCount, page + 1);
+        if (toBool(valueOf(ini, section, "Portrait")) != portrait)
+            return;
+        layout.panels.push_back({section, toInt(valueOf(ini, section, "FactoryIndex"), -1), page,
+                                 panelRect(fractionsOf(ini, section), area)});
+    });
+    return layout;
+}
+
+int PageLayout::pageAt(int page, int steps) const {
+    const int moved = (page + steps % pageCount) % pageCount;
+    return moved < 0 ? moved + pageCount : moved;
+}
+
+int calcPageCountFromIni(IniFile& ini) {
+    int count = 1;
+    forEachPanelSection(ini, [&](const std::string& section) { count = std::max(count, pageOf(ini, section) + 1); });
+    return count;
+}
+
+bool cleanPage(IniFile& ini, int page) {
+    bool used = false;
+    forEachPanelSection(ini, [&](const std::string& section) { used = used || pageOf(ini, section) == page; });
+    if (used)
+        return false;
+    forEachPanelSection(ini, [&](const std::string& section) {
+        const int own = pageOf(ini, section);
+        if (own > page)
+            ini.set(section, "Page", toText(own - 1));
+    });
+    return true;
+}
+
+} // namespace skyvane
