@@ -3,8 +3,9 @@
 #include "displays/IPanel.h"
 #include "displays/IPanelFactory.h"
 #include "displays/layout/MessageBoard.h"
+#include "displays/layout/MessageBox.h"
 #include "displays/layout/PageLayout.h"
-#include "displays/layout/RenderTargetPool.h"
+#include "displays/panels/RenderTargetPool.h"
 
 #include <irrlicht.h>
 #include <memory>
@@ -107,7 +108,16 @@ private:
 
     void readSettings(IniFile* ini);
     void loadPanels(IniFile* ini);
+    void applyStoredPreset(IniFile* ini);
+    void useFont(FlexibleFont* font, IniFile* ini);
+    PanelArea panelArea() const;
+    MessageSpace messageSpace() const;
     void turnPage(int step);
+    void renderPage();
+    void renderPageNumber();
+    void notePage();
+    bool processMessageBoxEvent(const irr::SEvent& event);
+    bool processPageKey(const irr::SEvent& event);
     bool isVisibleGUIElementAt(irr::core::vector2d<int> position);
     bool offerToPanels(const irr::SEvent& event);
     template <class Notify>
@@ -122,6 +132,11 @@ private:
     PageLayout layout_;
     int currentPage_ = 0;
     irr::core::rect<int> fullRect_;
+    ClaimedYArea claimed_;
+    irr::core::stringw pageNumber_; ///< "2 / 7", shown for a moment on a page without panels.
+    unsigned pageTurnMilliseconds_ = 0;
+    irr::core::vector2d<int> lastMousePosition_;
+    bool mouseOverGUI_ = false;
     IPanel* fullScreenPanel_ = nullptr;
     bool locked_ = false;
     bool metric_ = false;

@@ -1,0 +1,138 @@
+#include "core/Context.h"
+#include "core/IProgressCallback.h"
+#include "core/ini/IniFile.h"
+#include "core/ini/SeparatedString.h"
+#include "core/log/Logger.h"
+#include "core/text/Numbers.h"
+#include "displays/PanelManager.h"
+#include "displays/panels/MessageBoxView.h"
+#include "gui/font/FlexibleFont.h"
+#include "gui/font/LoadFFont.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace skyvane {
+
+namespace {
+
+const char* const standardFont = "Ubuntu (Regular)";
+constexpr int presetCount = 5;
+
+/// Without creating the key.
+std::string valueOf(IniFile* ini, const char* key) {
+    return ini->isAvailable("", key) ? ini->get("", key) : std::string();
+}
+
+std::string withoutSpaces(std::string text) {
+    text.erase(std::remove(text.begin(), text.end(), ' '), text.end());
+    return text;
+}
+
+int detailLevelOf(const std::string& name) {
+    return name == "HIGH" ? 2 : name == "MEDIUM" ? 1 : 0;
+}
+
+void advance(IProgressCallback* progress) {
+    if (progress)
+        progress->nextStep();
+}
+
+} // namespace
+
+void PanelManager::loadFontSettingsFromIni(IniFile* ini) {
+    const std::string name = valueOf(ini, "font");
+    FlexibleFont* font =
+        name.empty() ? nullptr : LoadFFont(context_->getSystemManager(), context_->getFontManager(), name);
+    if (!font) {
+        ini->set("", "font", standardFont);
+        font = LoadFFont(context_->getSystemManager(), context_->getFontManager(), standardFont);
+    }
+    if (font)
+        useFont(font, ini);
+    else
+        logText("No panel font: the texts appear in the engine's own.\n");
+}
+
+void PanelManager::useFont(FlexibleFont* font, IniFile* ini) {
+    const ScreenMetrics& metrics = context_->getScreenMetrics();
+    const irr::core::dimension2d<irr::u32> button(static_cast<irr::u32>(metrics.buttonWidth),
+                                                  static_cast<irr::u32>(metrics.buttonHeight));
+    const int offset = std::max(-10, std::min(toInt(valueOf(ini, "fontOffset")), 10));
+    const float scale = font->calculateOptimalScale(L"O_O_O_O_", button) * static_cast<float>(std::pow(1.1, offset));
+    font->setDefaultScale(irr::core::vector2d<float>(scale, scale));
+    context_->getIrrlichtDevice()->getGUIEnvironment()->getSkin()->setFont(font);
+    font_ = font;
+    messageBox_->forgetLayout();
+}
+
+void PanelManager::loadPanelSettingsFromIni(IniFile* ini, IProgressCallback* progress, bool, bool reloadFonts) {
+    fullScreenPanel_ = nullptr;
+    readSettings(ini);
+    if (reloadFonts)
+        loadFontSettingsFromIni(ini);
+    advance(progress);
+    advance(progress);
+    loadPanels(ini);
+    advance(progress);
+    applyStoredPreset(ini);
+}
+
+void PanelManager::readSettings(IniFile* ini) {
+    metric_ = valueOf(ini, "units") == "m|km|km/h";
+    irrelevantAirspaces_.clear();
+    for (const std::string& entry : parseSeperatedString(valueOf(ini, "blacklist"), ',')) {
+        irrelevantAirspaces_.push_back(withoutSpaces(entry));
+        logText("irrelevantAirspaces: " + irrelevantAirspaces_.back() + "\n");
+    }
+    messagesDisabled_ = toBool(valueOf(ini, "messagesDisabled"));
+    if (messagesDisabled_)
+        messageBox_->hide();
+    drawFps_ = toBool(valueOf(ini, "drawFPS"));
+    terrainDetailLevel_ = detailLevelOf(valueOf(ini, "terrainDetailLevel"));
+}
+
+void PanelManager::loadPanels(IniFile* ini) {
+    layout_ = PageLayout::read(*ini, panelArea(), context_->isPortrait());
+    panels_.reserve(panels_.size() + layout_.panels.size());
+    for (const PageLayout::Panel& place : layout_.panels) {
+        const bool known = place.factoryIndex >= 0 && place.factoryIndex < static_cast<int>(factories_.size());
+        IPanelFactory* factory = known ? factories_[static_cast<size_t>(place.factoryIndex)].get() : nullptr;
+        if (!factory)
+            continue;
+        factory->loadSetupFromIni(ini, place.section);
+        std::unique_ptr<IPanel> panel = factory->Create();
+        if (!panel)
+            continue;
+        panel->setFactory(factory);
+        panels_.push_back({std::move(panel), place.page, place.rect});
+    }
+    currentPage_ = std::min(currentPage_, layout_.pageCount - 1);
+    notePage();
+}
+
+void PanelManager::applyStoredPreset(IniFile* ini) {
+    const int preset = toInt(valueOf(ini, "optimized"), -1);
+    if (preset >= 0 && preset < presetCount)
+        applyOptimizedSettings(static_cast<IPanel::OptimizedSettings>(preset));
+}
+
+void PanelManager::unload() {
+    context_->getIrrlichtDevice()->getGUIEnvironment()->clear();
+    fullScreenPanel_ = nullptr;
+    panels_.clear();
+    context_->getIrrlichtDevice()->getGUIEnvironment()->clear();
+    layout_ = PageLayout();
+    currentPage_ = 0;
+    clearNonMessageYArea();
+}
+
+void PanelManager::writeOptimizedSetting(int settings) {
+    const std::string path = context_->getPath("data/config.ini");
+    IniFile config(path);
+    config.set("", "optimized", settings >= 0 && settings < presetCount ? toText(settings) : std::string());
+    if (!config.Save(path))
+        logText("The chosen preset could not be saved to " + path + "\n");
+}
+
+} // namespace skyvane

@@ -1,0 +1,89 @@
+#include "displays/panels/MessageBoxView.h"
+
+#include "core/Context.h"
+#include "core/events/EventReceiver.h"
+#include "core/text/Utf8.h"
+#include "core/time/Time.h"
+#include "displays/drawing/Drawer2D.h"
+#include "gui/font/MakeWordWrappedText.h"
+
+namespace skyvane {
+
+MessageBoxView::MessageBoxView(Context* context) : context_(context), closeLabel_(L"Close") {}
+
+MessageBoxView::~MessageBoxView() = default;
+
+irr::gui::IGUIFont* MessageBoxView::skinFont() const {
+    return context_->getIrrlichtDevice()->getGUIEnvironment()->getSkin()->getFont();
+}
+
+void MessageBoxView::layOut(const std::string& text, bool close, const MessageSpace& space) {
+    if (text != text_) {
+        irr::gui::IGUIFont* font = skinFont();
+        const auto width = static_cast<unsigned>(0.9 * space.screenWidth);
+        wrapped_ = makeWordWrappedText(decodeUtf8(text), width, font).c_str();
+        textSize_ = font ? font->getDimension(wrapped_.c_str()) : irr::core::dimension2d<irr::u32>(0, 0);
+        text_ = text;
+    }
+    close_ = close;
+    rects_ = placeMessageBox(textSize_, close, space);
+}
+
+void MessageBoxView::show(const std::string& text, MessageBox::Colors colors, int durationMilliseconds, bool close,
+                          const MessageSpace& space, bool enabled) {
+    if (text.empty())
+        return;
+    layOut(text, close, space);
+    box_.show(rects_, colors, durationMilliseconds, MilliSecs());
+    if (enabled)
+        setNoMouseBox(true);
+}
+
+void MessageBoxView::hide() {
+    if (box_.isVisible())
+        setNoMouseBox(false);
+    box_.hide();
+}
+
+void MessageBoxView::setNoMouseBox(bool on) {
+    if (EventReceiver* events = context_->getEvents())
+        events->setNoMouseEventBox(on ? &rects_.box : nullptr);
+}
+
+void MessageBoxView::render() {
+    MessageBox::Colors colors{};
+    if (!box_.isVisible())
+        return;
+    if (!box_.update(MilliSecs(), colors)) {
+        setNoMouseBox(false);
+        return;
+    }
+    const irr::video::SColor textColor(colors.text);
+    const irr::core::rect<int>& box = rects_.box;
+    Drawer2D* drawer = context_->getDrawer();
+    drawer->resetViewPort();
+    drawer->drawFilledRect(box, irr::video::SColor(colors.box));
+    drawer->drawOutline(irr::core::rect<int>(box.UpperLeftCorner + irr::core::vector2d<int>(1, 1),
+                                             box.LowerRightCorner - irr::core::vector2d<int>(1, 1)),
+                        textColor);
+    drawer->flush();
+    irr::gui::IGUIFont* font = skinFont();
+    if (!font)
+        return;
+    if (close_)
+        font->draw(closeLabel_, rects_.close, textColor, true, true);
+    font->draw(wrapped_, rects_.text, textColor);
+}
+
+MessageBox::Answer MessageBoxView::processMouse(const irr::SEvent::SMouseInput& mouse) {
+    MessageBox::Answer answer = MessageBox::Answer::NotMine;
+    if (mouse.Event == irr::EMIE_LMOUSE_PRESSED_DOWN)
+        answer = box_.press(mouse.X, mouse.Y);
+    else if (mouse.Event == irr::EMIE_LMOUSE_LEFT_UP)
+        answer = box_.release(mouse.X, mouse.Y);
+    if (answer == MessageBox::Answer::Dismissed)
+        setNoMouseBox(false);
+    return answer;
+}
+
+} // namespace skyvane

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "displays/layout/MessageBox.h"
+
+#include <irrlicht.h>
+#include <string>
+
+namespace skyvane {
+
+class Context;
+
+/// The message box on the screen: text wrapped and measured in the skin's font, drawn through Drawer2D, and its
+/// rectangle kept away from the GUI's mouse. Wraps again only when text, place or font have changed. Main thread only.
+class MessageBoxView {
+public:
+    explicit MessageBoxView(Context* context);
+    ~MessageBoxView();
+    MessageBoxView(const MessageBoxView&) = delete;
+    MessageBoxView& operator=(const MessageBoxView&) = delete;
+
+    /// An empty text does nothing. `enabled` false shows nothing and leaves the mouse alone.
+    void show(const std::string& text, MessageBox::Colors colors, int durationMilliseconds, bool close,
+              const MessageSpace& space, bool enabled);
+    void hide();
+    /// The font or its scale has changed: measure again.
+    void forgetLayout() { text_.clear(); }
+
+    void render();
+    MessageBox::Answer processMouse(const irr::SEvent::SMouseInput& mouse);
+    bool isVisible() const { return box_.isVisible(); }
+
+private:
+    void layOut(const std::string& text, bool close, const MessageSpace& space);
+    void setNoMouseBox(bool on);
+    irr::gui::IGUIFont* skinFont() const;
+
+    Context* context_;
+    MessageBox box_;
+    std::string text_;
+    irr::core::stringw wrapped_;
+    irr::core::stringw closeLabel_;
+    irr::core::dimension2d<irr::u32> textSize_;
+    MessageRects rects_;
+    bool close_ = false;
+};
+
+} // namespace skyvane
