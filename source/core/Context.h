@@ -4,6 +4,7 @@
 #include "core/ScreenMetrics.h"
 #include "core/engine/EngineRef.h"
 #include "core/events/IEventHost.h"
+#include "core/system/FramePacer.h"
 #include "sensors/ISensorHost.h"
 
 #include <irrlicht.h>
@@ -16,6 +17,8 @@ struct ChartPosition;
 class EventReceiver;
 class FlexibleFontManager;
 class IProcedure;
+class IProgressCallback;
+class IniFile;
 class Logger;
 class MaterialManager;
 class PanelManager;
@@ -71,7 +74,7 @@ public:
     void setShallExit(bool exit) { shallExit_ = exit; }
 
     /// The frame pacer: waits until at least 36 ms have passed since its last call.
-    void yieldWhileInactive();
+    void yieldWhileInactive() { pacer_.wait(); }
     void OnMustFreeMemory() override;
     /// The next frame is saved as a picture before it is shown.
     void OnScreenshotKey() override { screenshotWanted_ = true; }
@@ -81,7 +84,11 @@ public:
     void assertExistance(const std::string& path);
 
 private:
-    void registerFactories();
+    /// False for a document of another version; the standard one has replaced it then.
+    bool loadConfig(IniFile& config);
+    void makeManagers(IniFile& config);
+    void loadSettings(IniFile& config, IProgressCallback& progress);
+    void showStartMessages(bool updated);
     void logStep(const char* text);
 
     irr::IrrlichtDevice* device_;
@@ -97,7 +104,7 @@ private:
     std::unique_ptr<IProcedure> procedure_;
     std::unique_ptr<EventReceiver> events_;
     std::unique_ptr<MaterialManager> materials_;
-    unsigned lastFrameMilliseconds_ = 0;
+    FramePacer pacer_;
     bool shallExit_ = false;
     bool screenshotWanted_ = false;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/engine/EngineRef.h"
+#include "core/files/HomeFolder.h"
 #include "core/files/MountPoint.h"
 
 #include <irrlicht.h>
@@ -30,14 +31,14 @@ public:
     irr::IrrlichtDevice* getDevice() const { return device_; }
 
     const std::string& getAppHome() const { return appHome_; }
-    const std::string& getImagePath() const { return imagePath_; }
-    const std::string& getTerrainPath() const { return terrainPath_; }
-    const std::string& getDataPath() const { return dataPath_; }
-    const std::string& getLogPath() const { return logPath_; }
-    void setImagePath(const std::string& path) { imagePath_ = path; }
-    void setTerrainPath(const std::string& path) { terrainPath_ = path; }
-    void setDataPath(const std::string& path) { dataPath_ = path; }
-    void setLogPath(const std::string& path) { logPath_ = path; }
+    const std::string& getImagePath() const { return paths_.image; }
+    const std::string& getTerrainPath() const { return paths_.terrain; }
+    const std::string& getDataPath() const { return paths_.data; }
+    const std::string& getLogPath() const { return paths_.log; }
+    void setImagePath(const std::string& path) { paths_.image = path; }
+    void setTerrainPath(const std::string& path) { paths_.terrain = path; }
+    void setDataPath(const std::string& path) { paths_.data = path; }
+    void setLogPath(const std::string& path) { paths_.log = path; }
     /// Writes the four roots to data/data.ini.
     void savePaths();
 
@@ -56,6 +57,8 @@ public:
 
     /// The standard document, marked with the current version, as data/config.ini. False when it can't be written.
     bool writeStandardConfig();
+    /// What went wrong at the start, in words for the user; empty when all went well.
+    const std::string& getStartTrouble() const { return startTrouble_; }
 
 private:
     void testMemory();
@@ -63,16 +66,16 @@ private:
     void chooseDataLocation();
     void writeMarker();
     void openDataFolders();
+    void noteTrouble(const std::string& text);
 
     Context* context_;
     irr::IrrlichtDevice* device_;
     Drawer2D* drawer_;
     std::string startDirectory_;
     std::string appHome_;
-    std::string imagePath_;
-    std::string terrainPath_;
-    std::string dataPath_;
-    std::string logPath_;
+    HomeFolder home_;
+    DataPaths paths_;
+    std::string startTrouble_;
     EngineRef<Skin> skin_;
 };
 
