@@ -18,7 +18,7 @@ namespace skyvane {
 
 class IniFile;
 class ISensorHost;
-class NullSensor;
+class SimulatorSensor;
 class Pressure_Data;
 struct ChartPosition;
 
@@ -143,7 +143,7 @@ private:
     std::array<std::unique_ptr<ISensorDataFactory>, ISensorData::TypeCount> dataFactories_;
     std::vector<std::unique_ptr<ISensor>> sensors_; ///< Index 0 is the NullSensor.
     std::array<ISensor*, ISensorData::TypeCount> defaults_{};
-    std::unique_ptr<NullSensor> simulator_;
+    std::unique_ptr<SimulatorSensor> simulator_;
     bool simulating_ = false;
     std::vector<LoadedForwarder> forwarders_;
     std::vector<ISensorDataReceiver*> receivers_;

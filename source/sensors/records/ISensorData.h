@@ -33,6 +33,8 @@ public:
         ExtendedHeading
     };
     static constexpr int TypeCount = 21;
+    /// Numbers from configurations and wires may be none.
+    static constexpr bool isType(int number) { return number >= 0 && number < TypeCount; }
 
     virtual Type getType() = 0;
     /// The byte form in a buffer of the record's, valid until its next serialize or its end. From the second call on

@@ -1,0 +1,34 @@
+#include "sensors/VerticalSpeedFilter.h"
+
+#include <cmath>
+
+namespace skyvane {
+namespace {
+
+/// ln 2 / 2, per second.
+constexpr double DecayRate = 0.34657359027997264;
+constexpr double MinimalStepSeconds = 0.0001;
+
+} // namespace
+
+void VerticalSpeedFilter::update(double climbMetresPerSecond, unsigned timeStamp, double now) {
+    if (timeStamp == lastTimeStamp_)
+        return;
+    lastTimeStamp_ = timeStamp;
+    if (!std::isfinite(climbMetresPerSecond))
+        return;
+    if (!initialised_) {
+        initialised_ = true;
+        value_ = climbMetresPerSecond;
+        time_ = now;
+        return;
+    }
+    const double elapsed = now - time_;
+    if (elapsed > MinimalStepSeconds) {
+        const double k = std::exp(-elapsed * DecayRate);
+        value_ = k * value_ + (1.0 - k) * climbMetresPerSecond;
+        time_ = now;
+    }
+}
+
+} // namespace skyvane
