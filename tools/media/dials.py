@@ -251,10 +251,11 @@ def outer_ring():
 
 
 def round_line():
-    """A line across the middle eighth of its height, soft at the edges."""
-    return ('<linearGradient id="g" x1="0" y1="0" x2="0" y2="1"><stop offset="0.42" stop-color="#fff" stop-opacity="0"/>'
+    """A line across the middle eighth of its height, soft at the edges. A breath of alpha keeps the rest white, so that
+    no dark fringe shows on white."""
+    return ('<linearGradient id="g" x1="0" y1="0" x2="0" y2="1"><stop offset="0.42" stop-color="#fff" stop-opacity="0.005"/>'
             '<stop offset="0.45" stop-color="#fff"/><stop offset="0.55" stop-color="#fff"/>'
-            '<stop offset="0.58" stop-color="#fff" stop-opacity="0"/></linearGradient>'
+            '<stop offset="0.58" stop-color="#fff" stop-opacity="0.005"/></linearGradient>'
             '<path fill="url(#g)" d="M-500-500h1000v1000h-1000z"/>')
 
 
@@ -306,7 +307,7 @@ def loading():
 
 
 DRAWINGS = {
-    "alt_bg": (512, 1000, altimeter_face), "vsi_bg": (512, 1000, feet_face), "vsi_bg_m": (512, 1000, metre_face),
+    "speed_bg": (512, 1000, disc), "alt_bg": (512, 1000, altimeter_face), "vsi_bg": (512, 1000, feet_face), "vsi_bg_m": (512, 1000, metre_face),
     "comp_card": (512, 1000, compass_card), "comp_plane": (512, 1000, compass_plane),
     "comp_bug": (512, 1000, compass_bug),
     "alt_100": (512, 1000, hand_100), "alt_1000": (512, 1000, hand_1000), "alt_10000": (512, 1000, hand_10000),

@@ -18,4 +18,8 @@ struct DialFrame {
     int faceSize;
 };
 
+/// A box inside a square: its middle and its size as fractions of the square's edge.
+irr::core::rect<int> boxInSquare(const irr::core::rect<int>& square, double centreX, double centreY, double width,
+                                 double height);
+
 } // namespace skyvane

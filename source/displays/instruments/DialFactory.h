@@ -1,0 +1,42 @@
+#pragma once
+
+#include "displays/IPanelFactory.h"
+#include "displays/instruments/PanelTexture.h"
+
+#include <memory>
+#include <string>
+
+namespace skyvane {
+
+class Context;
+
+/// What the factories of the round dials have in common: no settings to read, a preview image.
+class DialFactory : public IPanelFactory {
+public:
+    void loadSetupFromIni(IniFile*, std::string) override {}
+    /// Has nothing to ask; writes that the panel takes the default sensor.
+    bool setup(IniFile* ini, std::string section) override;
+    std::string getName() override { return name_; }
+    /// The preview image, or nothing without one, in the largest square.
+    void renderPreview(irr::core::rect<int> rect) override;
+
+protected:
+    DialFactory(Context* context, const char* name, const char* previewPath)
+        : context_(context), name_(name), previewPath_(previewPath) {}
+
+    template <class Panel>
+    std::unique_ptr<IPanel> make() {
+        auto panel = std::make_unique<Panel>(context_);
+        panel->setFactory(this);
+        return panel;
+    }
+
+private:
+    Context* context_;
+    const char* name_;
+    const char* previewPath_;
+    bool previewLoaded_ = false;
+    PanelTexture preview_;
+};
+
+} // namespace skyvane

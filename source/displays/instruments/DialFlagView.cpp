@@ -1,0 +1,67 @@
+#include "displays/instruments/DialFlagView.h"
+
+#include "displays/drawing/Drawer2D.h"
+#include "displays/gauges/FlagMasks.h"
+
+namespace skyvane {
+
+namespace {
+
+using irr::video::SColor;
+
+const SColor white(0xffffffff);
+const SColor black(0xff000000);
+const SColor yellow(0xffffe11f);
+const SColor red(0xfff01c28);
+const SColor simulationBlue(0xff4fc3ff);
+
+/// A white texture whose alpha is the mask; the driver's own when a dial has asked for it before.
+PanelTexture makeMask(irr::video::IVideoDriver* driver, const char* name, double (*coverage)(double, double, double)) {
+    constexpr irr::u32 size = 256;
+    if (irr::video::ITexture* shared = driver->findTexture(name))
+        return PanelTexture(driver, shared);
+    const auto image = EngineRef<irr::video::IImage>::adopt(
+        driver->createImage(irr::video::ECF_A8R8G8B8, irr::core::dimension2d<irr::u32>(size, size)));
+    if (!image)
+        return PanelTexture();
+    for (irr::u32 y = 0; y < size; ++y) {
+        for (irr::u32 x = 0; x < size; ++x) {
+            const double alpha = coverage((x + 0.5) / size, (y + 0.5) / size, 1.5 / size);
+            image->setPixel(x, y, SColor(static_cast<irr::u32>(alpha * 255.0 + 0.5), 255, 255, 255));
+        }
+    }
+    return PanelTexture(driver, driver->addTexture(name, image.get()));
+}
+
+} // namespace
+
+DialFlagView::DialFlagView(Drawer2D* drawer)
+    : drawer_(drawer), cross_(makeMask(drawer->getDevice()->getVideoDriver(), "skyvane_flag_cross", crossCoverage)),
+      ring_(makeMask(drawer->getDevice()->getVideoDriver(), "skyvane_flag_ring", ringCoverage)) {}
+
+SColor DialFlagView::markingColor(DialFlag flag) {
+    return flag == DialFlag::Doubtful ? yellow : white;
+}
+
+void DialFlagView::drawShapes(DialFlag flag, const DialFrame& frame) {
+    if (flag != DialFlag::Doubtful && flag != DialFlag::Failed)
+        return;
+    const bool failed = flag == DialFlag::Failed;
+    drawer_->setColor(failed ? red : yellow);
+    drawer_->Draw((failed ? cross_ : ring_).get(), {0, 0}, {frame.edge, frame.edge}, 0.0f, {0.0f, 0.0f});
+    drawer_->setColor(white);
+}
+
+void DialFlagView::drawWords(DialFlag flag, const irr::core::rect<int>& square, FlexibleFont* font,
+                             const wchar_t* name) {
+    if (flag != DialFlag::Simulated && flag != DialFlag::Failed)
+        return;
+    const bool failed = flag == DialFlag::Failed;
+    const SColor color = failed ? red : simulationBlue;
+    const irr::core::rect<int> box = boxInSquare(square, 0.5, 0.655, 0.22, 0.1);
+    drawer_->drawFilledRect(box, black);
+    drawer_->drawOutline(box, color, 1 + square.getWidth() / 200);
+    words_.draw(font, failed ? name : L"SIM", L"MMM", boxInSquare(square, 0.5, 0.655, 0.19, 0.095), color);
+}
+
+} // namespace skyvane

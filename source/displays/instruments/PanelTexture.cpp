@@ -1,0 +1,34 @@
+#include "displays/instruments/PanelTexture.h"
+
+#include <utility>
+
+namespace skyvane {
+
+PanelTexture::PanelTexture(irr::video::IVideoDriver* driver, const std::string& path)
+    : PanelTexture(driver, driver->getTexture(path.c_str())) {}
+
+PanelTexture::PanelTexture(irr::video::IVideoDriver* driver, irr::video::ITexture* texture)
+    : driver_(EngineRef<irr::video::IVideoDriver>::share(driver)),
+      texture_(EngineRef<irr::video::ITexture>::share(texture)) {}
+
+PanelTexture::~PanelTexture() {
+    release();
+}
+
+PanelTexture& PanelTexture::operator=(PanelTexture&& other) {
+    if (this != &other) {
+        release();
+        driver_ = std::move(other.driver_);
+        texture_ = std::move(other.texture_);
+    }
+    return *this;
+}
+
+void PanelTexture::release() {
+    constexpr int driversAndOurs = 2;
+    if (texture_ && texture_->getReferenceCount() == driversAndOurs)
+        driver_->removeTexture(texture_.get());
+    texture_.reset();
+}
+
+} // namespace skyvane

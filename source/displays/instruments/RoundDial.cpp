@@ -1,0 +1,104 @@
+#include "displays/instruments/RoundDial.h"
+
+#include "core/Context.h"
+#include "core/geometry/Rectangles.h"
+#include "core/log/Logger.h"
+#include "displays/drawing/Drawer2D.h"
+#include "sensors/SensorManager.h"
+
+#include <cmath>
+#include <string>
+
+namespace skyvane {
+
+namespace {
+
+const irr::video::SColor white(0xffffffff);
+constexpr int smallestEdge = 8;
+
+} // namespace
+
+RoundDial::RoundDial(Context* context)
+    : IPanel(context), drawer_(context->getDrawer()), sensors_(context->getSensorManager()),
+      bezel_(loadImage("media/gauge_back_alpha.png")), flagView_(context->getDrawer()) {}
+
+PanelTexture RoundDial::loadImage(const char* path) {
+    PanelTexture image(drawer_->getDevice()->getVideoDriver(), context_->getPath(path));
+    if (!image && complete_) {
+        complete_ = false;
+        logText("A dial can't be drawn without its image " + std::string(path) + ".\n");
+    }
+    return image;
+}
+
+ISensorData* RoundDial::readRecord(ISensorData::Type type, DialEvidence& evidence) {
+    evidence = DialEvidence();
+    ISensor* sensor = sensors_->getDefaultSensor(type);
+    if (!sensor || !sensor->isDataTypeSupported(type))
+        return nullptr;
+    ISensorData* record = sensor->getData(type);
+    evidence.present = record != nullptr;
+    evidence.warning = sensor->getWarning(type);
+    evidence.simulating = sensors_->isSimulationActive();
+    return record;
+}
+
+void RoundDial::render(irr::core::rect<int> rect) {
+    makeQuadratic(rect);
+    if (rect.getWidth() < smallestEdge)
+        return;
+    const DialFrame frame(rect.getWidth());
+    const DialEvidence evidence = readValue();
+    const DialFlag flag = complete_ ? decideDialFlag(evidence) : DialFlag::Failed;
+    if (complete_)
+        prepare(frame);
+    drawer_->setViewPort(rect);
+    drawer_->setColor(white);
+    if (complete_) {
+        drawLayers(frame, flag);
+        drawer_->setColor(white);
+        drawSquare(bezel_, frame);
+        drawAboveBezel(frame, flag);
+    }
+    flagView_.drawShapes(flag, frame);
+    drawer_->resetViewPort();
+    if (isValueShown(flag))
+        drawTexts(rect);
+    flagView_.drawWords(flag, rect, context_->getFlexibleFont(), failureName());
+}
+
+void RoundDial::drawFace(const PanelTexture& image, const DialFrame& frame, double rotationDegrees) const {
+    drawer_->Draw(image.get(), frame.centre, {frame.faceSize, frame.faceSize}, static_cast<float>(rotationDegrees),
+                  {0.5f, 0.5f});
+}
+
+void RoundDial::drawFacePart(const PanelTexture& image, const irr::core::rect<float>& part, const DialFrame& frame,
+                             double rotationDegrees) const {
+    const irr::core::vector2d<float> from = part.UpperLeftCorner, to = part.LowerRightCorner;
+    const irr::core::vector2d<float> corners[4] = {from, {to.X, from.Y}, {from.X, to.Y}, to};
+    const irr::core::vector2d<float> pivot((0.5f - from.X) / part.getWidth(), (0.5f - from.Y) / part.getHeight());
+    drawer_->setTextureCoordinates(corners);
+    drawer_->Draw(image.get(), frame.centre,
+                  {static_cast<int>(std::lround(part.getWidth() * static_cast<float>(frame.faceSize))),
+                   static_cast<int>(std::lround(part.getHeight() * static_cast<float>(frame.faceSize)))},
+                  static_cast<float>(rotationDegrees), pivot);
+    drawer_->setTextureCoordinates(nullptr);
+}
+
+void RoundDial::drawHand(const PanelTexture& image, const DialFrame& frame, double rotationDegrees) const {
+    drawFacePart(image, {0.4375f, 0.0f, 0.5625f, 1.0f}, frame, rotationDegrees);
+}
+
+void RoundDial::drawSquare(const PanelTexture& image, const DialFrame& frame) const {
+    drawer_->Draw(image.get(), {0, 0}, {frame.edge, frame.edge}, 0.0f, {0.0f, 0.0f});
+}
+
+void RoundDial::drawDarkGround(const DialFrame& frame) const {
+    drawer_->drawFilledRect({0, 0, frame.edge, frame.edge}, irr::video::SColor(0xff0b0e12));
+}
+
+irr::video::SColor RoundDial::scaleColor(DialFlag flag) {
+    return flag == DialFlag::Failed ? irr::video::SColor(0xff606060) : DialFlagView::markingColor(flag);
+}
+
+} // namespace skyvane

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "displays/gauges/SpeedScale.h"
+#include "displays/instruments/DialText.h"
+#include "displays/instruments/RoundDial.h"
+#include "displays/instruments/SpeedFace.h"
+
+namespace skyvane {
+
+/// Air speed, or ground speed, which then stands on the dial as a word; knots, or km/h when the panels are metric.
+class SpeedIndicator : public RoundDial {
+public:
+    /// `scale` in knots.
+    explicit SpeedIndicator(Context* context, const SpeedScale& scale = SpeedScale());
+    std::string getName() override { return "Ground/AirSpeedIndicator"; }
+
+protected:
+    DialEvidence readValue() override;
+    void prepare(const DialFrame& frame) override;
+    void drawLayers(const DialFrame& frame, DialFlag flag) override;
+    void drawTexts(const irr::core::rect<int>& square) override;
+    const wchar_t* failureName() const override { return groundSpeedShown_ ? L"GS" : L"IAS"; }
+
+private:
+    PanelTexture ground_;
+    PanelTexture line_;
+    PanelTexture plain_;
+    PanelTexture needle_;
+    PanelTexture ring_;
+    SpeedFace face_;
+    DialText word_;
+    SpeedScale knots_;
+    SpeedScale kilometresPerHour_;
+    bool metric_ = false;
+    bool groundSpeedShown_ = false;
+    double speed_ = 0.0; ///< In the unit of the dial.
+};
+
+} // namespace skyvane

@@ -1,0 +1,31 @@
+#include "core/ini/IniFile.h"
+#include "displays/instruments/AltimeterFactory.h"
+#include "displays/instruments/AttitudeIndicatorFactory.h"
+#include "displays/instruments/CompassFactory.h"
+#include "displays/instruments/SpeedIndicatorFactory.h"
+#include "displays/instruments/VerticalSpeedIndicatorFactory.h"
+
+#include <gtest/gtest.h>
+
+namespace skyvane {
+namespace {
+
+TEST(DialFactory, names) {
+    EXPECT_EQ(AttitudeIndicatorFactory(nullptr).getName(), "AttitudeIndicator");
+    EXPECT_EQ(AltimeterFactory(nullptr).getName(), "Altimeter");
+    EXPECT_EQ(CompassFactory(nullptr).getName(), "Compass");
+    EXPECT_EQ(VerticalSpeedIndicatorFactory(nullptr).getName(), "VerticalSpeedIndicator");
+    EXPECT_EQ(SpeedIndicatorFactory(nullptr).getName(), "Ground/AirSpeedIndicator");
+}
+
+TEST(DialFactory, setupWritesTheDefaultSensorIntoItsSectionAlone) {
+    IniFile ini;
+    ini.set("P2", "Page", "1");
+    EXPECT_TRUE(AltimeterFactory(nullptr).setup(&ini, "P3"));
+    EXPECT_EQ(ini.get("P3", "SensorCount"), "1");
+    EXPECT_EQ(ini.get("P3", "Sensor0"), "-1");
+    EXPECT_FALSE(ini.isAvailable("P2", "Sensor0"));
+}
+
+} // namespace
+} // namespace skyvane
