@@ -121,6 +121,8 @@ TEST(FlightKinematics, AttitudeRatesHaveNoJumps) {
 TEST(FlightKinematics, SpecificForceIsTheAccelerationOfThePathLessGravity) {
     const auto& states = demo();
     Worst forward, right, down;
+    double climbing = 0.0;
+    int climbs = 0;
     for (size_t i = 1; i + 1 < states.size(); ++i) {
         if (wheelsChange(states, i))
             continue;
@@ -135,10 +137,17 @@ TEST(FlightKinematics, SpecificForceIsTheAccelerationOfThePathLessGravity) {
         const double x2 = x1 * std::cos(theta) - fd * std::sin(theta);
         const double z2 = x1 * std::sin(theta) + fd * std::cos(theta);
         forward.see(x2 - s.specificForceForward, s);
+        if (s.verticalSpeedMetresPerSecond > 2.0) {
+            climbing += x2 - s.specificForceForward;
+            ++climbs;
+        }
         right.see(y1 * std::cos(phi) + z2 * std::sin(phi) - s.specificForceRight, s);
         down.see(z2 * std::cos(phi) - y1 * std::sin(phi) - s.specificForceDown, s);
     }
     expectBelow(forward, 0.06, "forward");
+    // True airspeed grows in a climb at a steady indicated one: a hundredth of a metre per second squared.
+    ASSERT_GT(climbs, 1000);
+    EXPECT_NEAR(climbing / climbs, 0.0, 0.001);
     expectBelow(right, 0.06, "right");
     expectBelow(down, 0.06, "down");
 }
