@@ -3,6 +3,7 @@
 #include "chart/geodesy/Angles.h"
 #include "chart/geodesy/Gauss.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -25,6 +26,9 @@ int countFor(double blur, double minimalDelta) {
     return count < std::numeric_limits<int>::max() ? static_cast<int>(count) : std::numeric_limits<int>::max();
 }
 
+/// What a list takes at once; beyond that it grows as it fills.
+constexpr size_t mostReserved = 8192;
+
 } // namespace
 
 template <class Value, class Time>
@@ -32,6 +36,8 @@ SampleList<Value, Time>::SampleList(const Value& initialValue, Time initialTime,
                                     SampleList* derivativeList, Time minimalDelta, Time blur, bool isAngle)
     : maximalCount_(countFor(blur, minimalDelta)), integralList_(integralList), derivativeList_(derivativeList),
       minimalDelta_(minimalDelta), blur_(blur), isAngle_(isAngle) {
+    // One more than the maximum stands in the list for a moment.
+    samples_.reserve(std::min<size_t>(static_cast<size_t>(maximalCount_), mostReserved) + 1);
     samples_.push({initialValue, initialTime});
 }
 

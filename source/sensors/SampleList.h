@@ -5,11 +5,11 @@
 
 namespace skyvane {
 
-/// A sliding window of samples, and what follows from it: a smoothed newest value, and a derivative and an integral that
-/// are fed into further lists.
+/// A sliding window of samples, and what follows from it: a smoothed newest value, and a derivative and an integral
+/// that are fed into further lists.
 ///
-/// It keeps three standard deviations of samples and allocates nothing once it has held that many. The derivative and
-/// integral lists are the caller's and outlive this one; either may be null.
+/// It keeps three standard deviations of samples, and up to 8192 of them it allocates nothing after its construction.
+/// The derivative and integral lists are the caller's and outlive this one; either may be null.
 ///
 ///     SampleList<double, double> rates(0.0, now, nullptr, nullptr, 0.001, 1.0, false);
 ///     SampleList<double, double> headings(heading, now, nullptr, &rates, 0.01, 1.0, true);

@@ -10,6 +10,11 @@ namespace skyvane {
 template <class T>
 class SampleRing {
 public:
+    /// Makes room, so that so many elements need no more memory.
+    void reserve(size_t count) {
+        if (count > storage_.size())
+            grow(count);
+    }
     int count() const { return static_cast<int>(count_); }
     bool empty() const { return count_ == 0; }
 
@@ -19,7 +24,7 @@ public:
 
     void push(const T& element) {
         if (count_ == storage_.size())
-            grow();
+            grow(storage_.empty() ? 16 : 2 * storage_.size());
         storage_[place(count_)] = element;
         ++count_;
     }
@@ -35,8 +40,8 @@ private:
         const size_t position = first_ + index;
         return position < storage_.size() ? position : position - storage_.size();
     }
-    void grow() {
-        std::vector<T> larger(storage_.empty() ? 16 : 2 * storage_.size());
+    void grow(size_t capacity) {
+        std::vector<T> larger(capacity);
         for (size_t i = 0; i < count_; ++i)
             larger[i] = storage_[place(i)];
         storage_ = std::move(larger);
