@@ -55,9 +55,13 @@ void SensorManager::Update() {
     updateSensors();
     updateWarningLevel();
     updateVerticalSpeed(now);
-    // By index: a receiver may unregister itself.
-    for (size_t i = 0; i < receivers_.size(); ++i)
-        receivers_[i]->OnSensorUpdate(this);
+    // A receiver may unregister itself; the next one then stands at its place.
+    for (size_t i = 0; i < receivers_.size();) {
+        ISensorDataReceiver* receiver = receivers_[i];
+        receiver->OnSensorUpdate(this);
+        if (i < receivers_.size() && receivers_[i] == receiver)
+            ++i;
+    }
 }
 
 void SensorManager::updateSensors() {

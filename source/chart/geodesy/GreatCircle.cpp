@@ -15,8 +15,9 @@ using Vector = irr::core::vector3d<double>;
 /// Straight length between two unit vectors below which the planar way is taken.
 constexpr double PlanarChord = 0.001;
 
+/// The order of the arguments lets a NaN through, so that no place gives no distance.
 double clampedAcos(double cosine) {
-    return std::acos(std::min(1.0, std::max(-1.0, cosine)));
+    return std::acos(std::min(std::max(cosine, -1.0), 1.0));
 }
 
 /// The part of v that stands upright on the unit vector, normalised; a vector of no length stays so.
