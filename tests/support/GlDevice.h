@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+extern "C" struct _XDisplay* XOpenDisplay(const char* name); // the X headers' macros and the test framework don't mix
+
 namespace skyvane {
 
 /// A window with OpenGL for tests that draw, and its pixels. One at a time.
@@ -23,7 +25,7 @@ public:
         parameters.WindowSize = irr::core::dimension2d<irr::u32>(width, height);
         parameters.Stencilbuffer = true;
         parameters.LoggingLevel = irr::ELL_ERROR;
-        if (std::getenv("DISPLAY"))
+        if (std::getenv("DISPLAY") && keepServer())
             device_ = irr::createDeviceEx(parameters);
     }
     ~GlDevice() {
@@ -73,6 +75,12 @@ public:
     }
 
 private:
+    /// A server without clients starts anew and refuses connections meanwhile: one stays for the whole process.
+    static bool keepServer() {
+        static _XDisplay* const connection = XOpenDisplay(nullptr);
+        return connection != nullptr;
+    }
+
     irr::IrrlichtDevice* device_ = nullptr;
     unsigned width_;
     unsigned height_;
