@@ -11,7 +11,7 @@ namespace skyvane {
 class ISensor {
 public:
     /// How far data can be trusted; larger is worse. Data that is too old must be WRONG: nothing else makes it expire.
-    enum WarningLevel { GOOD = 0, MAYBE_WRONG = 1, WRONG = 2 };
+    enum WarningLevel : int { GOOD = 0, MAYBE_WRONG = 1, WRONG = 2 };
 
     virtual std::string getName() = 0;
     /// Polls the sensor; true when it has new data in this frame.

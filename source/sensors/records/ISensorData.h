@@ -9,7 +9,7 @@ namespace skyvane {
 class ISensorData {
 public:
     /// The numbers stand in logs, configuration keys and datagrams.
-    enum Type {
+    enum Type : int {
         GPS,
         Attitude,
         Heading,
