@@ -8,7 +8,7 @@ class SensorManager;
 
 /// Registers every kind of record, sensor, forwarder and panel. The orders are stored formats: a kind that isn't there
 /// yet keeps its place, empty.
-void registerSensorFactories(Context& context, SensorManager& sensors);
+void registerSensorFactories(SensorManager& sensors);
 void registerPanelFactories(Context& context, PanelManager& panels);
 
 } // namespace skyvane

@@ -1,9 +1,10 @@
+#include "core/Context.h"
+#include "core/FrameLoop.h"
 #include "core/engine/DesktopSize.h"
 #include "core/engine/EngineRef.h"
 #include "core/engine/ShowState.h"
 #include "core/geometry/Rectangles.h"
 #include "core/system/CommandLine.h"
-#include "core/system/FrameStats.h"
 #include "core/time/Time.h"
 
 #include <csignal>
@@ -11,6 +12,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <irrlicht.h>
+#include <memory>
 
 using namespace skyvane;
 
@@ -67,12 +69,11 @@ int runProgram(const CommandLine& line, const char* argv0) {
     std::signal(SIGPIPE, SIG_IGN);
     prepareDevice(*device);
     std::srand(static_cast<unsigned>(std::time(nullptr)));
-    while (device->run()) {
-        showState(device.get(), L"Skyvane");
-        Delay(36);
-    }
+    auto context = std::make_unique<Context>(device.get(), argv0, true);
+    FrameLoop(*context).run();
     drawStateScreen(device.get(), L"Cleaning up, please wait...");
     device->run();
+    context.reset();
     closeWindow(*device);
     device.reset();
     std::puts("Skyvane Exit");

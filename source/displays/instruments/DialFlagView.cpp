@@ -61,6 +61,7 @@ void DialFlagView::drawWords(DialFlag flag, const irr::core::rect<int>& square, 
     const irr::core::rect<int> box = boxInSquare(square, 0.5, 0.655, 0.22, 0.1);
     drawer_->drawFilledRect(box, black);
     drawer_->drawOutline(box, color, 1 + square.getWidth() / 200);
+    drawer_->flush();
     words_.draw(font, failed ? name : L"SIM", L"MMM", boxInSquare(square, 0.5, 0.655, 0.19, 0.095), color);
 }
 

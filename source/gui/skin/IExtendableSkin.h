@@ -27,8 +27,8 @@ public:
     const wchar_t* getDefaultText(irr::gui::EGUI_DEFAULT_TEXT text) const override;
     void setDefaultText(irr::gui::EGUI_DEFAULT_TEXT which, const wchar_t* text) override;
     void setSize(irr::gui::EGUI_DEFAULT_SIZE which, irr::s32 size) override;
-    irr::gui::IGUIFont* getFont(irr::gui::EGUI_DEFAULT_FONT which) const override;
-    void setFont(irr::gui::IGUIFont* font, irr::gui::EGUI_DEFAULT_FONT which) override;
+    irr::gui::IGUIFont* getFont(irr::gui::EGUI_DEFAULT_FONT which = irr::gui::EGDF_DEFAULT) const override;
+    void setFont(irr::gui::IGUIFont* font, irr::gui::EGUI_DEFAULT_FONT which = irr::gui::EGDF_DEFAULT) override;
     irr::gui::IGUISpriteBank* getSpriteBank() const override;
     void setSpriteBank(irr::gui::IGUISpriteBank* bank) override;
     irr::u32 getIcon(irr::gui::EGUI_DEFAULT_ICON icon) const override;
