@@ -8,7 +8,9 @@ using irr::core::rect;
 
 namespace {
 
-/// Sharpens minified textures by half a level: dials are large pictures drawn small.
+/// Sharpens minified textures by half a level, so that the nearest mip map has between the drawn size and twice it:
+/// dials are large pictures drawn small. Under the software renderer this looks as crisp as blending two mip maps,
+/// which takes twice the time.
 constexpr int lodBiasEighths = -4;
 
 EngineRef<irr::video::ITexture> makeWhiteTexture(irr::video::IVideoDriver* driver) {
@@ -43,10 +45,13 @@ irr::video::SMaterial makeMaterial() {
         irr::video::EAS_TEXTURE | irr::video::EAS_VERTEX_COLOR);
     irr::video::SMaterialLayer& layer = material.TextureLayer[0];
     layer.BilinearFilter = true;
-    layer.TrilinearFilter = true;
+    layer.TrilinearFilter = false;
     layer.LODBias = lodBiasEighths;
     layer.TextureWrapU = irr::video::ETC_CLAMP_TO_EDGE;
     layer.TextureWrapV = irr::video::ETC_CLAMP_TO_EDGE;
+    // The driver makes the texture matrices that a material lacks anew at each draw.
+    for (irr::u32 i = 0; i < irr::video::MATERIAL_MAX_TEXTURES; ++i)
+        material.getTextureMatrix(i).makeIdentity();
     return material;
 }
 

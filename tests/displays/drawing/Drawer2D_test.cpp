@@ -3,6 +3,7 @@
 #include "core/engine/EngineRef.h"
 #include "core/time/Time.h"
 #include "displays/materials/MaterialManager.h"
+#include "support/AllocationCounter.h"
 #include "support/GlDevice.h"
 
 #include <cmath>
@@ -301,6 +302,26 @@ TEST_F(Drawer2DTest, blendsOnAfterTheEngineHasDrawn) {
         EXPECT_NEAR(static_cast<int>(gl.pixel(15, 15).getBlue()), 127, 1);
         EXPECT_NEAR(static_cast<int>(gl.pixel(115, 15).getGreen()), 127, 1);
     }
+}
+
+TEST_F(Drawer2DTest, allocatesNothingInTheSteadyState) {
+    const std::vector<Drawer2D::Position> star = {{20, 20}, {50, 30}, {80, 20}, {70, 50}, {80, 80}, {50, 70}, {20, 80}};
+    const auto draw = [&] {
+        drawer->setViewPort(rect<int>(0, 0, 100, 100));
+        for (int i = 0; i < 300; ++i)
+            drawer->Draw(i % 2 ? quarters : plain, {40, 40}, {40, 40}, static_cast<float>(i), {0.5f, 0.5f});
+        drawer->DrawArc(plain, {50, 50}, 40, 0, 300, 2, 10);
+        drawer->DrawFilledPolygon(star);
+        drawer->drawRectWithCorner(rect<int>(10, 10, 60, 60), 8, green);
+        drawer->resetViewPort();
+    };
+    frame(draw);
+    gl.begin();
+    const AllocationCounter counter;
+    draw();
+    drawer->flush();
+    EXPECT_EQ(counter.count(), 0u);
+    gl.end();
 }
 
 TEST(Blink, hasAPeriodOf900Milliseconds) {
