@@ -3,6 +3,7 @@
 #include "core/Context.h"
 #include "core/engine/ShowState.h"
 #include "core/engine/TouchEvents.h"
+#include "core/events/EventReceiver.h"
 #include "core/time/Time.h"
 #include "displays/drawing/Drawer2D.h"
 #include "displays/panels/MessageBoxView.h"
@@ -22,6 +23,13 @@ bool isPointer(const irr::SEvent& event) {
     return event.EventType == irr::EET_MOUSE_INPUT_EVENT || isTouchEvent(event);
 }
 
+std::unique_ptr<MessageBoxView> makeMessageBox(Context* context) {
+    return std::make_unique<MessageBoxView>(context, [context](const irr::core::rect<int>* box) {
+        if (EventReceiver* events = context->getEvents())
+            events->setNoMouseEventBox(box);
+    });
+}
+
 bool isVisibleAt(const irr::gui::IGUIElement* element, irr::core::vector2d<int> position) {
     if (!element->isVisible())
         return false;
@@ -36,16 +44,20 @@ bool isVisibleAt(const irr::gui::IGUIElement* element, irr::core::vector2d<int> 
 } // namespace
 
 PanelManager::PanelManager(Context* context)
-    : context_(context), messageBox_(std::make_unique<MessageBoxView>(context)),
+    : context_(context), messageBox_(makeMessageBox(context)),
       targets_(context->getIrrlichtDevice()->getVideoDriver()) {
     const ScreenMetrics& metrics = context->getScreenMetrics();
     fullRect_ = irr::core::rect<int>(0, 0, static_cast<int>(metrics.width),
                                      static_cast<int>(metrics.height) - metrics.buttonHeight);
     clearNonMessageYArea();
+    // Texts lie over the sprites that were drawn before them.
+    Drawer2D* drawer = context->getDrawer();
+    context->getFontManager()->setBeforeDraw([drawer] { drawer->flush(); });
 }
 
 PanelManager::~PanelManager() {
     unload();
+    context_->getFontManager()->setBeforeDraw(nullptr);
 }
 
 void PanelManager::addPanelFactory(std::unique_ptr<IPanelFactory> factory) {

@@ -41,12 +41,14 @@ void advance(IProgressCallback* progress) {
 } // namespace
 
 void PanelManager::loadFontSettingsFromIni(IniFile* ini) {
-    const std::string name = valueOf(ini, "font");
-    FlexibleFont* font =
-        name.empty() ? nullptr : LoadFFont(context_->getSystemManager(), context_->getFontManager(), name);
-    if (!font) {
+    const auto load = [this](const std::string& name) {
+        return name.empty() ? nullptr : LoadFFont(context_->getSystemManager(), context_->getFontManager(), name);
+    };
+    const std::string wanted = valueOf(ini, "font");
+    FlexibleFont* font = load(wanted);
+    if (!font && wanted != standardFont) {
         ini->set("", "font", standardFont);
-        font = LoadFFont(context_->getSystemManager(), context_->getFontManager(), standardFont);
+        font = load(standardFont);
     }
     if (font)
         useFont(font, ini);

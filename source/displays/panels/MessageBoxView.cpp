@@ -1,20 +1,34 @@
 #include "displays/panels/MessageBoxView.h"
 
-#include "core/Context.h"
-#include "core/events/EventReceiver.h"
+#include "core/ICommonAppContext.h"
 #include "core/text/Utf8.h"
 #include "core/time/Time.h"
 #include "displays/drawing/Drawer2D.h"
 #include "gui/font/MakeWordWrappedText.h"
 
+#include <algorithm>
+
 namespace skyvane {
 
-MessageBoxView::MessageBoxView(Context* context) : context_(context), closeLabel_(L"Close") {}
+namespace {
+
+/// The same centre, but no smaller than the size: fonts cut a text at its rectangle.
+irr::core::rect<int> atLeast(const irr::core::rect<int>& rect, const irr::core::dimension2d<irr::u32>& size) {
+    const int width = std::max(rect.getWidth(), static_cast<int>(size.Width));
+    const int height = std::max(rect.getHeight(), static_cast<int>(size.Height));
+    const irr::core::vector2d<int> corner = rect.getCenter() - irr::core::vector2d<int>(width / 2, height / 2);
+    return {corner, irr::core::dimension2d<int>(width, height)};
+}
+
+} // namespace
+
+MessageBoxView::MessageBoxView(ICommonAppContext* app, SetNoMouseBox setNoMouseBox)
+    : app_(app), setNoMouseBox_(std::move(setNoMouseBox)), closeLabel_(L"Close") {}
 
 MessageBoxView::~MessageBoxView() = default;
 
 irr::gui::IGUIFont* MessageBoxView::skinFont() const {
-    return context_->getIrrlichtDevice()->getGUIEnvironment()->getSkin()->getFont();
+    return app_->getIrrlichtDevice()->getGUIEnvironment()->getSkin()->getFont();
 }
 
 void MessageBoxView::layOut(const std::string& text, bool close, const MessageSpace& space) {
@@ -36,18 +50,13 @@ void MessageBoxView::show(const std::string& text, MessageBox::Colors colors, in
     layOut(text, close, space);
     box_.show(rects_, colors, durationMilliseconds, MilliSecs());
     if (enabled)
-        setNoMouseBox(true);
+        setNoMouseBox_(&rects_.box);
 }
 
 void MessageBoxView::hide() {
     if (box_.isVisible())
-        setNoMouseBox(false);
+        setNoMouseBox_(nullptr);
     box_.hide();
-}
-
-void MessageBoxView::setNoMouseBox(bool on) {
-    if (EventReceiver* events = context_->getEvents())
-        events->setNoMouseEventBox(on ? &rects_.box : nullptr);
 }
 
 void MessageBoxView::render() {
@@ -55,12 +64,12 @@ void MessageBoxView::render() {
     if (!box_.isVisible())
         return;
     if (!box_.update(MilliSecs(), colors)) {
-        setNoMouseBox(false);
+        setNoMouseBox_(nullptr);
         return;
     }
     const irr::video::SColor textColor(colors.text);
     const irr::core::rect<int>& box = rects_.box;
-    Drawer2D* drawer = context_->getDrawer();
+    Drawer2D* drawer = app_->getDrawer();
     drawer->resetViewPort();
     drawer->drawFilledRect(box, irr::video::SColor(colors.box));
     drawer->drawOutline(irr::core::rect<int>(box.UpperLeftCorner + irr::core::vector2d<int>(1, 1),
@@ -71,7 +80,7 @@ void MessageBoxView::render() {
     if (!font)
         return;
     if (close_)
-        font->draw(closeLabel_, rects_.close, textColor, true, true);
+        font->draw(closeLabel_, atLeast(rects_.close, font->getDimension(closeLabel_.c_str())), textColor, true, true);
     font->draw(wrapped_, rects_.text, textColor);
 }
 
@@ -82,7 +91,7 @@ MessageBox::Answer MessageBoxView::processMouse(const irr::SEvent::SMouseInput& 
     else if (mouse.Event == irr::EMIE_LMOUSE_LEFT_UP)
         answer = box_.release(mouse.X, mouse.Y);
     if (answer == MessageBox::Answer::Dismissed)
-        setNoMouseBox(false);
+        setNoMouseBox_(nullptr);
     return answer;
 }
 

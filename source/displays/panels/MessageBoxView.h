@@ -2,18 +2,22 @@
 
 #include "displays/layout/MessageBox.h"
 
+#include <functional>
 #include <irrlicht.h>
 #include <string>
 
 namespace skyvane {
 
-class Context;
+class ICommonAppContext;
 
 /// The message box on the screen: text wrapped and measured in the skin's font, drawn through Drawer2D, and its
 /// rectangle kept away from the GUI's mouse. Wraps again only when text, place or font have changed. Main thread only.
 class MessageBoxView {
 public:
-    explicit MessageBoxView(Context* context);
+    /// Is told the rectangle that keeps the mouse from the GUI, null when there is none any more.
+    using SetNoMouseBox = std::function<void(const irr::core::rect<int>*)>;
+
+    MessageBoxView(ICommonAppContext* app, SetNoMouseBox setNoMouseBox);
     ~MessageBoxView();
     MessageBoxView(const MessageBoxView&) = delete;
     MessageBoxView& operator=(const MessageBoxView&) = delete;
@@ -31,10 +35,10 @@ public:
 
 private:
     void layOut(const std::string& text, bool close, const MessageSpace& space);
-    void setNoMouseBox(bool on);
     irr::gui::IGUIFont* skinFont() const;
 
-    Context* context_;
+    ICommonAppContext* app_;
+    SetNoMouseBox setNoMouseBox_;
     MessageBox box_;
     std::string text_;
     irr::core::stringw wrapped_;
