@@ -37,6 +37,7 @@ SystemManager::SystemManager(Context* context, Drawer2D* drawer, const char* arg
     std::printf("cdir: %s\n", startDirectory_.c_str());
     testMemory();
     skin_ = EngineRef<Skin>::adopt(new Skin(device_->getGUIEnvironment()));
+    skin_->setButtonSize(context->getRecommendedButtonWidth(), context->getRecommendedButtonHeight());
     device_->getGUIEnvironment()->setSkin(skin_.get());
     std::printf("apphome: %s ss: %s\n", appHome_.c_str(), home_.getMarkerPath().c_str());
     const bool isFirstStart = home_.isFirstStart();

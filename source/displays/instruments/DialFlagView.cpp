@@ -58,11 +58,11 @@ void DialFlagView::drawWords(DialFlag flag, const irr::core::rect<int>& square, 
         return;
     const bool failed = flag == DialFlag::Failed;
     const SColor color = failed ? red : simulationBlue;
-    const irr::core::rect<int> box = boxInSquare(square, 0.5, 0.655, 0.22, 0.1);
+    const irr::core::rect<int> box = boxInSquare(square, 0.5, 0.63, 0.19, 0.085);
     drawer_->drawFilledRect(box, black);
     drawer_->drawOutline(box, color, 1 + square.getWidth() / 200);
     drawer_->flush();
-    words_.draw(font, failed ? name : L"SIM", L"MMM", boxInSquare(square, 0.5, 0.655, 0.19, 0.095), color);
+    words_.draw(font, failed ? name : L"SIM", L"MMM", boxInSquare(square, 0.5, 0.63, 0.165, 0.082), color);
 }
 
 } // namespace skyvane

@@ -53,7 +53,7 @@ void SpeedIndicator::drawLayers(const DialFrame& frame, DialFlag flag) {
 void SpeedIndicator::drawTexts(const irr::core::rect<int>& square) {
     if (groundSpeedShown_)
         word_.draw(context_->getFlexibleFont(), L"GroundSpeed", L"GroundSpeed",
-                   boxInSquare(square, 0.5, 0.4, 0.34, 0.08), irr::video::SColor(0xffff0000));
+                   boxInSquare(square, 0.5, 0.4, 0.26, 0.08), irr::video::SColor(0xffff0000));
 }
 
 } // namespace skyvane

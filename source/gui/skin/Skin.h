@@ -15,6 +15,9 @@ public:
     /// Over the environment's present skin, which stays alive beneath.
     explicit Skin(irr::gui::IGUIEnvironment* environment);
 
+    /// Pixels of a button that a finger hits; every other size of the GUI follows.
+    void setButtonSize(int width, int height);
+
     void setColor(const std::string& name, irr::video::SColor color);
     /// The engine's colour 3 for an unknown name.
     irr::video::SColor getColor(const std::string& name) const;
