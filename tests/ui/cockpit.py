@@ -63,7 +63,7 @@ class Cockpit:
     def __enter__(self):
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ['Xvfb', '-displayfd', str(write), '-screen', '0', '1920x1080x24', '-noreset', '-nolisten', 'tcp'],
+            ['Xvfb', '-displayfd', str(write), '-screen', '0', '1920x1920x24', '-noreset', '-nolisten', 'tcp'],
             pass_fds=(write,), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as pipe:

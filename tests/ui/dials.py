@@ -76,27 +76,29 @@ class Dial:
     def horizon(self, pixels, window=0.70):
         """(bank, pitch) in degrees as the attitude dial shows them, right bank and nose up positive."""
         reach = int(window * self.radius)
-        grid = numpy.arange(-reach, reach + 1)
+        grid = numpy.arange(-reach, reach + 1, 3)
         across, down = numpy.meshgrid(grid, grid)
         inside = across ** 2 + down ** 2 <= reach ** 2
-        part = pixels[int(self.y) - reach:int(self.y) + reach + 1, int(self.x) - reach:int(self.x) + reach + 1].astype(int)
+        part = pixels[(int(self.y) + grid)[:, None], (int(self.x) + grid)[None, :]].astype(int)
         sky = inside & (part[:, :, 2] > part[:, :, 0] + 40)
         ground = inside & (part[:, :, 0] > part[:, :, 2] + 25) & (part[:, :, 1] < 150)
-        if sky.sum() < 50 or ground.sum() < 50:
+        if sky.sum() < 20 or ground.sum() < 20:
             return None
-        best = None
-        # The direction of up that splits sky from ground with the fewest pixels on the wrong side.
         x = numpy.concatenate([across[sky], across[ground]])
         up = numpy.concatenate([-down[sky], -down[ground]])
         is_sky = numpy.concatenate([numpy.ones(sky.sum(), bool), numpy.zeros(ground.sum(), bool)])
-        for lean in numpy.arange(-180, 180, 0.5):
+
+        def split(lean):
+            """The fewest pixels on the wrong side of a line across this direction of up, and where it lies."""
             along = -x * math.sin(math.radians(lean)) + up * math.cos(math.radians(lean))
             order = numpy.argsort(along)
             ordered = is_sky[order]
             wrong = numpy.cumsum(ordered) + (len(ordered) - ordered.sum() - numpy.cumsum(~ordered))
             cut = int(numpy.argmin(wrong))
-            if best is None or wrong[cut] < best[0]:
-                best = (int(wrong[cut]), float(lean), float(along[order[cut]]))
+            return int(wrong[cut]), float(lean), float(along[order[cut]])
+
+        rough = min(split(lean) for lean in range(-180, 180, 5))
+        best = min(split(rough[1] + fine) for fine in numpy.arange(-5, 5.01, 0.25))
         degree = 0.76 * 2 * self.radius / 90
         return best[1], -best[2] / degree
 
