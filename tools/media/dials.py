@@ -116,7 +116,7 @@ def vertical_face(unit, to_feet, labels, minor):
             angle = vertical_angle(sign * value * to_feet)
             out += tick(angle, 385, 470, 13)
             if value or sign > 0:
-                out += label(angle, 318, text, 60)
+                out += label(angle, 315, text, 66)
     for sign in (1, -1):
         x, y = at(-90 + sign * 17, 318)
         out += shape([(x - 22, y + sign * 16), (x + 22, y + sign * 16), (x, y - sign * 20)], DIM, width=0)
@@ -124,7 +124,7 @@ def vertical_face(unit, to_feet, labels, minor):
 
 
 def feet_face():
-    return vertical_face("100 FT/MIN", 100, [(0, "0"), (5, "5"), (10, "10"), (15, "15"), (20, "20"), (30, "30")],
+    return vertical_face("100 FT/MIN", 100, [(0, "0"), (5, "5"), (10, "10"), (15, ""), (20, "20"), (30, "30")],
                          list(range(1, 20)) + [25])
 
 

@@ -56,13 +56,16 @@ void DialFlagView::drawWords(DialFlag flag, const irr::core::rect<int>& square, 
                              const wchar_t* name) {
     if (flag != DialFlag::Simulated && flag != DialFlag::Failed)
         return;
+    // A failure has the middle to itself; the other word leaves the value free.
     const bool failed = flag == DialFlag::Failed;
     const SColor color = failed ? red : simulationBlue;
-    const irr::core::rect<int> box = boxInSquare(square, 0.5, 0.63, 0.19, 0.085);
+    const double middle = failed ? 0.5 : 0.63, width = failed ? 0.36 : 0.19, height = failed ? 0.16 : 0.085;
+    const irr::core::rect<int> box = boxInSquare(square, 0.5, middle, width, height);
     drawer_->drawFilledRect(box, black);
     drawer_->drawOutline(box, color, 1 + square.getWidth() / 200);
     drawer_->flush();
-    words_.draw(font, failed ? name : L"SIM", L"MMM", boxInSquare(square, 0.5, 0.63, 0.165, 0.082), color);
+    words_.draw(font, failed ? name : L"SIM", L"MMM", boxInSquare(square, 0.5, middle, 0.9 * width, 0.95 * height),
+                color);
 }
 
 } // namespace skyvane
