@@ -41,6 +41,7 @@ public:
     void addSensorForwarderFactory(std::unique_ptr<ISensorForwarderFactory> factory);
     void addSensorDataFactory(ISensorData::Type type, std::unique_ptr<ISensorDataFactory> factory);
 
+    /// Drops what was loaded before. There are no profiles yet: chooseProfile has no effect.
     void loadSensorSettingsFromIni(IniFile* ini, bool chooseProfile);
     void unload();
     /// Once a frame.

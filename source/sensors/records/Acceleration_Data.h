@@ -4,7 +4,8 @@
 
 namespace skyvane {
 
-/// What an accelerometer fixed to the aircraft feels, in metres per second squared: x right, y up, z forward.
+/// The apparent gravity in the aircraft's frame, in metres per second squared: x right, y up, z forward. Level flight
+/// gives (0, -9.81, 0); in a slip x points to the side where the ball lies.
 /// Byte form, 28 bytes: x at 0, y at 8, z at 16, time stamp at 24.
 class Acceleration_Data : public FixedFormData<28> {
 public:

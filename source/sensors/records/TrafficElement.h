@@ -13,8 +13,11 @@ struct TrafficElement {
     /// Degrees.
     double longitude = -360.0;
     double latitude = -360.0;
+    /// Feet.
     int altitude = -100000;
+    /// Knots.
     int velocity = -100000;
+    /// Feet per minute.
     int climbRate = -100000;
     int squawk = 0;
     int capabilityIndex = 100000;
