@@ -29,6 +29,11 @@ make_atlas "Ubuntu derivative Skyvane" ubuntu-regular \
     "$ubuntu-latin-400-normal.woff2" "$ubuntu-latin-ext-400-normal.woff2" "$ubuntu-greek-400-normal.woff2"
 make_atlas "Roboto" roboto-regular "$roboto"
 
-cp "$work/package/LICENSE" "$out/ubuntu-LICENCE.txt"
+{
+    echo "Ubuntu derivative Skyvane, made from Ubuntu Regular:"
+    echo "Copyright 2011 Canonical Ltd. Licensed under the Ubuntu Font Licence 1.0"
+    echo
+    cat "$work/package/LICENSE"
+} >"$out/ubuntu-LICENCE.txt"
 cp /usr/share/common-licenses/Apache-2.0 "$out/roboto-LICENSE.txt"
 chmod 644 "$out"/*
