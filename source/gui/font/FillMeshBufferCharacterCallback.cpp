@@ -1,5 +1,7 @@
 #include "gui/font/FillMeshBufferCharacterCallback.h"
 
+#include <initializer_list>
+
 namespace skyvane {
 
 namespace {

@@ -127,6 +127,9 @@ void FlexibleFont::setMaterial(irr::video::SMaterial& material, irr::video::E_MA
     material.BackfaceCulling = false;
     material.BlendOperation = irr::video::EBO_ADD; // without it the driver may leave blending off
     material.UseMipMaps = false;
+    for (irr::video::SMaterialLayer& each : material.TextureLayer)
+        each.getTextureMatrix(); // makes one: the driver's copy of the material allocates where it is missing, each
+                                 // time
     irr::video::SMaterialLayer& layer = material.TextureLayer[0];
     layer.Texture = page_.get();
     layer.TextureWrapU = irr::video::ETC_CLAMP_TO_EDGE;

@@ -1,17 +1,27 @@
+#define GL_GLEXT_PROTOTYPES
 #include "gui/font/SDFFWithShadowsCallback.h"
 
 #include "gui/font/FlexibleFontManager.h"
-#include "gui/font/ShaderConstants.h"
+#include <GL/gl.h>
+#include <GL/glext.h>
+#include <algorithm>
 
 namespace skyvane {
 
-void SDFFWithShadowsCallback::OnSetConstants(irr::video::IMaterialRendererServices* services) {
-    SDFFCallback::OnSetConstants(services);
+void SDFFWithShadowsCallback::findLocations(unsigned program) {
+    SDFFCallback::findLocations(program);
+    shadowOffset_ = glGetUniformLocation(program, "uShadowOffset");
+    shadowSmoothing_ = glGetUniformLocation(program, "uShadowSmoothing");
+    shadowColor_ = glGetUniformLocation(program, "uShadowColor");
+}
+
+void SDFFWithShadowsCallback::sendConstants() const {
+    constexpr float sharpest = 1e-4f; // the shader divides by it
+    SDFFCallback::sendConstants();
     const FlexibleFontManager::Shadow& shadow = manager_.getShadow();
-    const float offset[] = {shadow.offset.X, shadow.offset.Y};
-    services->setPixelShaderConstant("uShadowOffset", offset, 2);
-    sendFloat(services, "uShadowSmoothing", shadow.smoothing);
-    sendColor(services, "uShadowColor", shadow.color);
+    glUniform2f(shadowOffset_, shadow.offset.X, shadow.offset.Y);
+    glUniform1f(shadowSmoothing_, std::max(shadow.smoothing, sharpest));
+    sendColor(shadowColor_, shadow.color);
 }
 
 } // namespace skyvane

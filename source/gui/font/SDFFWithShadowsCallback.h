@@ -8,7 +8,15 @@ namespace skyvane {
 class SDFFWithShadowsCallback : public SDFFCallback {
 public:
     using SDFFCallback::SDFFCallback;
-    void OnSetConstants(irr::video::IMaterialRendererServices* services) override;
+
+protected:
+    void findLocations(unsigned program) override;
+    void sendConstants() const override;
+
+private:
+    int shadowOffset_ = -1;
+    int shadowSmoothing_ = -1;
+    int shadowColor_ = -1;
 };
 
 } // namespace skyvane

@@ -142,6 +142,7 @@ TEST_F(FlexibleFontTest, turnsCounterClockwiseAboutThePivot) {
     EXPECT_NEAR(flat.getHeight(), upright.getWidth(), 1);
     text.set(font, L"H . . .", white); // the tall end is the lower one, once turned
     draw([&] { text.drawRotated(Rect(0, 0, width, height), {150, 60}, {0.5f, 0.5f}, 90); });
+    fixture.gl.savePicture("font-turned.png");
     const Rect turned = inkOf(fixture.gl, width, height);
     int lowerInk = 0;
     int upperInk = 0;
@@ -168,6 +169,7 @@ TEST_F(FlexibleFontTest, outlineAndShadowColourTheEdge) {
     EXPECT_EQ(countOf(red), 0); // border size 0 draws none, whatever its colour
     font->setDefaultBorderSize(0.2f);
     draw(drawText);
+    fixture.gl.savePicture("font-outline.png");
     EXPECT_GT(countOf(red), 100);
     font->setDefaultBorderSize(0.0f);
     font->setDefaultMaterialType(fixture.manager->getSDFFWithShadowsMaterialType());
