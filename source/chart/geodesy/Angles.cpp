@@ -34,4 +34,28 @@ double Latitudinize(double degrees) {
     return angle < -90.0 ? -180.0 - angle : angle;
 }
 
+double AngleDiff(double a, double b) {
+    const double difference = a - b;
+    if (difference > 180.0)
+        return difference - 360.0;
+    return difference < -180.0 ? difference + 360.0 : difference;
+}
+
+double headingDiff(double a, double b) {
+    const double difference = std::fabs(a - b);
+    return difference > 180.0 ? 360.0 - difference : difference;
+}
+
+double transformLongitude(double longitude, double reference) {
+    return Angle180(longitude - reference);
+}
+
+double hlp_Flip(double degrees) {
+    return 180.0 - degrees;
+}
+
+double lerpAngle(double a, double b, double t) {
+    return std::atan2((1.0 - t) * std::sin(a) + t * std::sin(b), (1.0 - t) * std::cos(a) + t * std::cos(b));
+}
+
 } // namespace skyvane

@@ -7,9 +7,9 @@
 namespace skyvane {
 namespace {
 
-double longitudeScale(double latitude) {
-    return std::fabs(latitude) > PolarLatitudeLimit ? PolarCosine : std::cos(latitude / DegreesPerRadian);
-}
+/// The usual window's side, and its height in degrees of latitude.
+constexpr double WindowMetres = 2.0 * LocalHalfExtentMetres;
+constexpr double WindowDegrees = 0.17986429902184514;
 
 /// The turn of the longitude that lies nearest to the window's middle.
 double nearestTurn(double longitude, double middle) {
@@ -20,6 +20,10 @@ double nearestTurn(double longitude, double middle) {
 }
 
 } // namespace
+
+double longitudeScale(double latitude) {
+    return std::fabs(latitude) > PolarLatitudeLimit ? PolarCosine : std::cos(latitude / DegreesPerRadian);
+}
 
 irr::core::vector3d<double> ChartPosition2Vector3df64(const ChartPosition& origin, const ChartPosition& position,
                                                       double height, double halfExtent) {
@@ -36,6 +40,26 @@ irr::core::vector3d<double> ChartPosition2Vector3df64(const ChartPosition& origi
     const double u = Angle180(longitude - west) / Angle180(east - west);
     const double v = (north - position.latitude) / (north - south);
     return irr::core::vector3d<double>(2.0 * u * halfExtent - halfExtent, height, halfExtent - 2.0 * v * halfExtent);
+}
+
+irr::core::vector3d<float> ChartPosition2Vector3df(const ChartPosition& origin, const ChartPosition& position,
+                                                   double height) {
+    const auto place = ChartPosition2Vector3df64(origin, position, height);
+    return irr::core::vector3d<float>(static_cast<float>(place.X), static_cast<float>(place.Y),
+                                      static_cast<float>(place.Z));
+}
+
+ChartPosition Vector3df642ChartPosition(const ChartPosition& origin, const irr::core::vector3d<double>& place) {
+    const double width = WindowMetres / longitudeScale(origin.latitude) / MetresPerDegree;
+    const double west = Angle0to360(origin.longitude - 0.5 * width);
+    const double north = origin.latitude + 0.5 * WindowDegrees;
+    return ChartPosition(west + (LocalHalfExtentMetres + place.X) / WindowMetres * width,
+                         north - (LocalHalfExtentMetres - place.Z) / WindowMetres * WindowDegrees);
+}
+
+ChartPosition Vector3df2ChartPosition(const ChartPosition& origin, const irr::core::vector3d<float>& place) {
+    return Vector3df642ChartPosition(
+        origin, irr::core::vector3d<double>(static_cast<double>(place.X), 0.0, static_cast<double>(place.Z)));
 }
 
 } // namespace skyvane

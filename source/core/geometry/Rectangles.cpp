@@ -1,6 +1,26 @@
 #include "core/geometry/Rectangles.h"
 
+#include <algorithm>
+
 namespace skyvane {
+namespace {
+
+/// One axis of limitRect.
+void limitSpan(int& low, int& high, int lowest, int highest) {
+    const long long excess = (static_cast<long long>(high) - low) - (static_cast<long long>(highest) - lowest);
+    if (excess >= 0) {
+        // Halved away, what is left would be shifted onto the bounds.
+        low = lowest;
+        high = highest;
+        return;
+    }
+    const long long shift =
+        std::max(0LL, static_cast<long long>(lowest) - low) - std::max(0LL, static_cast<long long>(high) - highest);
+    low = static_cast<int>(low + shift);
+    high = static_cast<int>(high + shift);
+}
+
+} // namespace
 
 irr::core::rect<int> makeXic(const irr::core::rect<int>& rect, float aspect) {
     if (!(aspect > 0.0f))
@@ -26,6 +46,13 @@ irr::core::rect<int> makeXic(const irr::core::rect<int>& rect, float aspect) {
 irr::core::rect<int>& makeQuadratic(irr::core::rect<int>& rect) {
     rect = makeXic(rect, 1.0f);
     return rect;
+}
+
+irr::core::rect<int> limitRect(const irr::core::rect<int>& rect, const irr::core::rect<int>& bounds) {
+    irr::core::rect<int> result = rect;
+    limitSpan(result.UpperLeftCorner.X, result.LowerRightCorner.X, bounds.UpperLeftCorner.X, bounds.LowerRightCorner.X);
+    limitSpan(result.UpperLeftCorner.Y, result.LowerRightCorner.Y, bounds.UpperLeftCorner.Y, bounds.LowerRightCorner.Y);
+    return result;
 }
 
 } // namespace skyvane

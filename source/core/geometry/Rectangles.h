@@ -11,4 +11,8 @@ irr::core::rect<int> makeXic(const irr::core::rect<int>& rect, float aspect);
 /// Shrinks the rectangle in place to a centred square and returns it.
 irr::core::rect<int>& makeQuadratic(irr::core::rect<int>& rect);
 
+/// The rectangle, brought into the bounds: what is too large loses half of the excess on each side, then the rest is
+/// shifted. Neither rectangle is inside out.
+irr::core::rect<int> limitRect(const irr::core::rect<int>& rect, const irr::core::rect<int>& bounds);
+
 } // namespace skyvane

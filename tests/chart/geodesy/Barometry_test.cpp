@@ -18,5 +18,20 @@ TEST(Barometry, seaLevelPressureUndoesTheAltitude) {
         EXPECT_NEAR(calcSeaLevelPressure(calcAltitudeFromPressure(pressure, 1020.0), pressure), 1020.0, 1e-9);
 }
 
+TEST(Barometry, pressureOfAnAltitudeIsTheOtherWayRound) {
+    for (double altitude = -500.0; altitude < 11000.0; altitude += 500.0) {
+        const double pressure = calcPressureFromAltitude(altitude, 1002.0);
+        EXPECT_NEAR(calcAltitudeFromPressure(pressure, 1002.0), altitude, 1e-6);
+        EXPECT_NEAR(calcSeaLevelPressure(altitude, pressure), 1002.0, 1e-9);
+    }
+}
+
+TEST(Barometry, settingTheAltimeterMovesIt) {
+    EXPECT_NEAR(convertPressureAltitude2MSL(3000.0, 1013.25), 3000.0, 1e-6);
+    // A hectopascal is 27 ft at sea level, more further up.
+    EXPECT_NEAR(convertPressureAltitude2MSL(0.0, 1014.25), 8.3, 0.1);
+    EXPECT_NEAR(convertPressureAltitude2MSL(0.0, 1003.25), -83.5, 1.0);
+}
+
 } // namespace
 } // namespace skyvane

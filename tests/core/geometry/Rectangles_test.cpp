@@ -27,6 +27,15 @@ TEST(Rectangles, QuadraticWorksInPlace) {
     EXPECT_EQ(Rect(40, 10, 80, 50), rect);
 }
 
+TEST(Rectangles, LimitsHalveAwayTheExcessAndShiftTheRest) {
+    const Rect bounds(0, 0, 100, 50);
+    EXPECT_EQ(Rect(0, 0, 100, 50), limitRect(Rect(-40, -20, 141, 200), bounds)) << "too large both ways";
+    EXPECT_EQ(Rect(80, 40, 100, 50), limitRect(Rect(95, 45, 115, 55), bounds)) << "shifted back";
+    EXPECT_EQ(Rect(0, 5, 20, 15), limitRect(Rect(-30, 5, -10, 15), bounds));
+    EXPECT_EQ(Rect(10, 10, 20, 20), limitRect(Rect(10, 10, 20, 20), bounds)) << "within";
+    EXPECT_EQ(bounds, limitRect(Rect(-2147483647, -2147483647, 2147483647, 2147483647), bounds));
+}
+
 TEST(Rectangles, AMeaninglessRatioLeavesTheRectangle) {
     const Rect rect(1, 2, 3, 4);
     EXPECT_EQ(rect, makeXic(rect, 0.0f));
