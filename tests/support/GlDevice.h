@@ -49,6 +49,10 @@ public:
     /// Ends the frame and reads its pixels.
     void end() {
         driver()->endScene();
+        grab();
+    }
+    /// Reads the pixels of a frame that somebody else has ended.
+    void grab() {
         pixels_.resize(3u * width_ * height_);
         glReadBuffer(GL_BACK);
         glPixelStorei(GL_PACK_ALIGNMENT, 1);
