@@ -217,7 +217,7 @@ void Context::assertExistance(const std::string& path) {
         return;
     const std::string text = "File does not exist: " + path;
     logText(text + "\n");
-    showMissingFileScreen(device_, decodeUtf8(text));
+    showMissingFileScreen(device_, decodeUtf8(text) + L"\nPlease install it again. Press any key to end.");
     std::exit(EXIT_FAILURE);
 }
 
