@@ -16,7 +16,7 @@ const irr::core::rect<float> topPart(0.1875f, 0.0625f, 0.8125f, 0.5625f); // the
 AttitudeIndicator::AttitudeIndicator(Context* context)
     : RoundDial(context), sky_(loadImage("media/att_sky.png")), ground_(loadImage("media/att_ground.png")),
       ladder_(loadImage("media/att_ladder.png")), bank_(loadImage("media/att_bank.png")),
-      ring_(loadImage("media/gauge_back_back.png")), top_(loadImage("media/att_top.png")) {}
+      ring_(loadOrnament("media/gauge_back_back.png")), top_(loadImage("media/att_top.png")) {}
 
 void AttitudeIndicator::setStyle(irr::video::SColor fill, const irr::video::SColor* outline) {
     fill_ = fill;

@@ -21,7 +21,7 @@ const irr::core::rect<float> bugPart(0.4375f, 0.0f, 0.5625f, 0.0625f); // of its
 
 Compass::Compass(Context* context)
     : RoundDial(context), card_(loadImage("media/comp_card.png")), plane_(loadImage("media/comp_plane.png")),
-      bug_(loadImage("media/comp_bug.png")), ring_(loadImage("media/gauge_back_back.png")) {}
+      bug_(loadImage("media/comp_bug.png")), ring_(loadOrnament("media/gauge_back_back.png")) {}
 
 void Compass::setStyle(irr::video::SColor fill, const irr::video::SColor* outline) {
     fill_ = fill;

@@ -22,8 +22,12 @@ RoundDial::RoundDial(Context* context)
     : IPanel(context), drawer_(context->getDrawer()), sensors_(context->getSensorManager()),
       bezel_(loadImage("media/gauge_back_alpha.png")), flagView_(context->getDrawer()) {}
 
+PanelTexture RoundDial::loadOrnament(const char* path) const {
+    return PanelTexture(drawer_->getDevice()->getVideoDriver(), context_->getPath(path));
+}
+
 PanelTexture RoundDial::loadImage(const char* path) {
-    PanelTexture image(drawer_->getDevice()->getVideoDriver(), context_->getPath(path));
+    PanelTexture image = loadOrnament(path);
     if (!image && complete_) {
         complete_ = false;
         logText("A dial can't be drawn without its image " + std::string(path) + ".\n");

@@ -42,6 +42,9 @@ protected:
     /// A path below the program's home, such as media/alt_bg.png. A missing file is logged and fails the dial.
     PanelTexture loadImage(const char* path);
 
+    /// An image that a dial can do without.
+    PanelTexture loadOrnament(const char* path) const;
+
     /// The record and the trust in it, or null; its numbers are still to be looked at.
     template <class Record>
     Record* read(ISensorData::Type type, DialEvidence& evidence) {

@@ -14,7 +14,7 @@ namespace skyvane {
 SpeedIndicator::SpeedIndicator(Context* context, const SpeedScale& scale)
     : RoundDial(context), ground_(loadImage("media/speed_bg.png")), line_(loadImage("media/roundline.png")),
       plain_(loadImage("media/white.png")), needle_(loadImage("media/alt_100.png")),
-      ring_(loadImage("media/gauge_back_back.png")), face_(context->getDrawer()), knots_(makeDrawable(scale)),
+      ring_(loadOrnament("media/gauge_back_back.png")), face_(context->getDrawer()), knots_(makeDrawable(scale)),
       kilometresPerHour_(makeDrawable(scale.toMetric())) {}
 
 DialEvidence SpeedIndicator::readValue() {
