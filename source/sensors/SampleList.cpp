@@ -28,6 +28,8 @@ int countFor(double blur, double minimalDelta) {
 
 /// What a list takes at once; beyond that it grows as it fills.
 constexpr size_t mostReserved = 8192;
+/// So many standard deviations away a sample's weight is below the last digit of the newest one's.
+constexpr double weightlessBlurs = 9.0;
 
 } // namespace
 
@@ -94,7 +96,10 @@ Value SampleList<Value, Time>::calcLastValueBlured() {
     double weightSum = 0.0;
     for (int i = 0; i < samples_.count(); ++i) {
         const Sample& sample = samples_[i];
-        const double weight = gauss(newest.time - sample.time, blur_);
+        const double age = newest.time - sample.time;
+        if (std::abs(age) > weightlessBlurs * blur_)
+            continue;
+        const double weight = gauss(age, blur_);
         const Value value = isAngle_ ? newest.value + difference(sample.value, newest.value) : sample.value;
         valueSum += value * weight;
         timeSum += sample.time * weight;

@@ -60,6 +60,8 @@ void FlightGearRecords::take(const FlightGearData& data, unsigned nowMs) {
         clearSamples(headings_);
         clearSamples(turnRates_);
     }
+    if (nowMs != nowMs_ || !ages_.isDatagramFresh(nowMs))
+        nowSeconds_ = Secs();
     nowMs_ = nowMs;
     ages_.markDatagram(nowMs);
     takeScalars(data);
@@ -113,7 +115,7 @@ void FlightGearRecords::takeHeading(double headingDegrees) {
     heading_.value = headingDegrees;
     heading_.timeStamp = nowMs_;
     renewed(ISensorData::Heading);
-    headings_.addSample(headingDegrees, Secs());
+    headings_.addSample(headingDegrees, nowSeconds_);
     turnRate_.value = turnRates_.calcLastValueBlured();
     turnRate_.timeStamp = nowMs_;
     renewed(ISensorData::TurnRate);

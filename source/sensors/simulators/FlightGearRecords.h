@@ -57,6 +57,8 @@ private:
     VerticalSpeed_Data verticalSpeed_;
     RecordAges ages_;
     unsigned nowMs_ = 0; ///< Of the datagram that is taken in.
+    double nowSeconds_ =
+        0.0; ///< Secs() for the datagrams of one nowMs, so that a flood adds one sample, not thousands.
     SimulatorSamples turnRates_;
     SimulatorSamples headings_; ///< Feeds turnRates_.
 };

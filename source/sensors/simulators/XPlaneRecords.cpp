@@ -85,6 +85,8 @@ bool XPlaneRecords::take(const void* bytes, size_t length, unsigned nowMs) {
         clearSamples(turnRates_);
         traffic_.forget();
     }
+    if (nowMs != nowMs_ || !ages_.isDatagramFresh(nowMs))
+        nowSeconds_ = Secs();
     nowMs_ = nowMs;
     ages_.markDatagram(nowMs);
     for (Group group; datagram.next(group);)
@@ -177,7 +179,7 @@ void XPlaneRecords::takeYawRate(const Values& values) {
     const double degreesPerSecond = values[2] * DegreesPerRadian;
     if (!Plausible::yawRateDegreesPerSecond.holds(degreesPerSecond))
         return;
-    turnRates_.addSample(degreesPerSecond, Secs());
+    turnRates_.addSample(degreesPerSecond, nowSeconds_);
     setValue(ISensorData::TurnRate, turnRates_.calcLastValueBlured());
 }
 
@@ -252,8 +254,8 @@ void XPlaneRecords::takeTraffic(const Group& group) {
     auto* traffic = record<Traffic_Data>(ISensorData::Traffic);
     if (!traffic)
         return;
-    const bool taken = group.index == TrafficLatitudes    ? traffic_.takeLatitudes(group.values, Secs(), *traffic)
-                       : group.index == TrafficLongitudes ? traffic_.takeLongitudes(group.values, Secs(), *traffic)
+    const bool taken = group.index == TrafficLatitudes    ? traffic_.takeLatitudes(group.values, nowSeconds_, *traffic)
+                       : group.index == TrafficLongitudes ? traffic_.takeLongitudes(group.values, nowSeconds_, *traffic)
                                                           : traffic_.takeAltitudes(group.values, *traffic);
     if (taken)
         renewed(ISensorData::Traffic);

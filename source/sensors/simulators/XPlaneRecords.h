@@ -55,6 +55,8 @@ private:
     std::array<std::unique_ptr<ISensorData>, ISensorData::TypeCount> records_;
     RecordAges ages_;
     unsigned nowMs_ = 0; ///< Of the datagram that is taken in.
+    double nowSeconds_ =
+        0.0; ///< Secs() for the datagrams of one nowMs, so that a flood adds one sample, not thousands.
     SimulatorSamples turnRates_;
     XPlaneTraffic traffic_;
 };

@@ -152,6 +152,18 @@ TEST_F(XPlaneSensorTest, turnRateIsSmoothedOverTwoSeconds) {
     EXPECT_NEAR(fly(0.0f, 1), 0.0, 1e-9) << "another flight";
 }
 
+/// The clock runs on while the datagrams of one frame are read; they all carry the time of the frame.
+TEST_F(XPlaneSensorTest, aFloodInOneFrameCountsAsOneSample) {
+    rig.clock.advance(1);
+    const unsigned frameMs = MilliSecs();
+    for (const float rate : {0.1f, 0.2f, 0.3f}) {
+        const std::string bytes = XPlaneBytes().group(16, {0, 0, rate, 0, 0, 0, 0, 0}).text();
+        sensor.OnDatagram(bytes.data(), bytes.size(), frameMs);
+        rig.clock.advance(0.05);
+    }
+    EXPECT_NEAR(value(ISensorData::TurnRate), 5.7296, 1e-3);
+}
+
 TEST_F(XPlaneSensorTest, noOldOrDefaultValueIsShownAsFresh) {
     rig.clock.advance(0.5);
     EXPECT_EQ(warning(ISensorData::Altitude), ISensor::WRONG) << "half a second after the construction";
