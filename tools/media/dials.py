@@ -120,7 +120,7 @@ def vertical_face(unit, to_feet, labels, minor):
     for sign in (1, -1):
         x, y = at(-90 + sign * 17, 318)
         out += shape([(x - 22, y + sign * 16), (x + 22, y + sign * 16), (x, y - sign * 20)], DIM, width=0)
-    return out + caption(0, -150, "VERTICAL SPEED", 30, DIM, 5) + caption(0, 84, unit, 30, DIM, 5)
+    return out + caption(0, -138, "VERTICAL SPEED", 30, DIM, 5) + caption(0, 84, unit, 30, DIM, 5)
 
 
 def feet_face():
