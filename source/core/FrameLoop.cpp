@@ -37,6 +37,8 @@ bool FrameLoop::runFrame() {
     draw();
     updateCaption();
     stats_.endFrame();
+    if (stats_.isEnough())
+        context_.setShallExit(true);
     return true;
 }
 
