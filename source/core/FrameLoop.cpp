@@ -37,8 +37,6 @@ bool FrameLoop::runFrame() {
     draw();
     updateCaption();
     stats_.endFrame();
-    if (stats_.isEnough())
-        context_.setShallExit(true);
     return true;
 }
 

@@ -36,15 +36,14 @@ double processStart() {
 
 } // namespace
 
-FrameStats::FrameStats(std::string file, unsigned wanted) : file_(std::move(file)), wanted_(wanted) {
+FrameStats::FrameStats(std::string file) : file_(std::move(file)) {
     if (!file_.empty())
         work_.resize(MaxFrames);
 }
 
 FrameStats FrameStats::fromEnvironment() {
     const char* file = std::getenv("SKYVANE_FRAME_STATS");
-    const char* frames = std::getenv("SKYVANE_FRAMES");
-    return FrameStats(file ? file : "", frames ? toUnsigned(frames) : 0);
+    return FrameStats(file ? file : "");
 }
 
 void FrameStats::beginFrame() {
@@ -61,10 +60,8 @@ void FrameStats::resumeFrame() {
 }
 
 void FrameStats::endFrame() {
-    if (file_.empty()) {
-        ++frames_;
+    if (file_.empty())
         return;
-    }
     const double ended = now(CLOCK_MONOTONIC);
     worked_ += ended - begun_;
     if (frames_ == 0) {
