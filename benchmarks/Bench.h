@@ -24,6 +24,7 @@ const std::string& benchBuildFolder();
 std::vector<Bench> recordBenches();
 std::vector<Bench> frameBenches();
 std::vector<Bench> startBenches();
+std::vector<Bench> areaBenches();
 
 /// Seconds of one call.
 double secondsOf(const std::function<void()>& work);

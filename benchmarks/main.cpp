@@ -58,14 +58,14 @@ int runBenches(int argc, char** argv) {
             words.push_back(argv[i]);
     }
     bool allHold = true;
-    for (const auto& list : {recordBenches(), frameBenches(), startBenches()}) {
+    for (const auto& list : {recordBenches(), frameBenches(), startBenches(), areaBenches()}) {
         for (const Bench& bench : list) {
             const auto named = [&bench](const std::string& word) { return bench.name.find(word) != std::string::npos; };
             if (!words.empty() && std::none_of(words.begin(), words.end(), named))
                 continue;
             const double value = bench.measure(smoke);
-            std::printf("%s %.4g %s%g\n", bench.name.c_str(), value, bench.kind == Bench::Bound::AtMost ? "<=" : ">=",
-                        bench.limit);
+            std::printf("%s %.4g %s%g\n", bench.name.c_str(), value,
+                        bench.kind == Bench::Bound::AtMost ? "<=" : ">=", bench.limit);
             std::fflush(stdout);
             allHold = allHold && (smoke ? !std::isnan(value) : holds(bench, value));
         }

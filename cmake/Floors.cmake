@@ -7,7 +7,7 @@ set(SKYVANE_LOWER_FLOOR
     core/bytes core/files core/geometry core/ini core/log core/messages core/text core/threads core/time
     sensors
     attitude/math
-    chart/geodesy chart/names chart/elements
+    chart/geodesy chart/names chart/elements chart/areas chart/store
     displays/gauges displays/layout
     gui/glyphs)
 
