@@ -4,7 +4,9 @@
 #include "displays/instruments/AltimeterFactory.h"
 #include "displays/instruments/AttitudeIndicatorFactory.h"
 #include "displays/instruments/CompassFactory.h"
+#include "displays/instruments/GMeterFactory.h"
 #include "displays/instruments/SpeedIndicatorFactory.h"
+#include "displays/instruments/TurnRateIndicatorFactory.h"
 #include "displays/instruments/VerticalSpeedIndicatorFactory.h"
 #include "sensors/SensorManager.h"
 #include "sensors/StandardDataFactories.h"
@@ -28,7 +30,7 @@ void registerSensorFactories(SensorManager& sensors) {
 
 void registerPanelFactories(Context& context, PanelManager& panels) {
     panels.addPanelFactory(std::make_unique<AttitudeIndicatorFactory>(&context));
-    panels.addPanelFactory(nullptr); // TurnRateIndicatorFactory
+    panels.addPanelFactory(std::make_unique<TurnRateIndicatorFactory>(&context));
     panels.addPanelFactory(nullptr); // Map2DFactory
     panels.addPanelFactory(nullptr); // Map3DFactory
     panels.addPanelFactory(std::make_unique<AltimeterFactory>(&context));
@@ -38,7 +40,7 @@ void registerPanelFactories(Context& context, PanelManager& panels) {
     panels.addPanelFactory(std::make_unique<VerticalSpeedIndicatorFactory>(&context));
     panels.addPanelFactory(std::make_unique<SpeedIndicatorFactory>(&context));
     panels.addPanelFactory(nullptr); // SlipIndicatorFactory
-    panels.addPanelFactory(nullptr); // GMeterFactory
+    panels.addPanelFactory(std::make_unique<GMeterFactory>(&context));
     panels.addPanelFactory(nullptr); // BatteryPanelFactory
     panels.addPanelFactory(nullptr); // CheckListPanelFactory
     panels.addPanelFactory(nullptr); // GliderPanelFactory

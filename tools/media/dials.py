@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes media/drawings/*.svg: the family of dial faces, hands and rings.
+"""Writes media/drawings/*.svg: the family of dial faces, hands and rings, fields, lamps and battery.
 
     apt-get install python3-fonttools fonts-roboto-unhinted
     tools/media/dials.py media/drawings
@@ -229,6 +229,180 @@ def hand_10000():
     return shape(mirrored([(0, -500), (42, -490), (5, -398), (5, 60), (0, 60)]), "#ffffff")
 
 
+# --- Turn, acceleration and slip ------------------------------------------------------------------------------------
+
+BALL_Y, BALL_REACH = 262, 330  # the tube's height under the middle, and how far the ball goes in it
+
+
+def turn_face():
+    out = disc()
+    for side in (-1, 1):
+        out += tick(side * 90, 395, 470, 16) + tick(side * 110, 395, 470, 16)
+        out += caption(side * 250, 366, "R" if side > 0 else "L", 52, DIM)
+    y, reach = BALL_Y, BALL_REACH + 62
+    out += (f'<linearGradient id="tube" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#aeb8c4"/>'
+            f'<stop offset="0.45" stop-color="#f1f5f9"/><stop offset="1" stop-color="#8d98a6"/></linearGradient>'
+            f'<rect x="{-reach}" y="{y - 62}" width="{2 * reach}" height="124" rx="62" fill="url(#tube)" stroke="{DARK}" '
+            f'stroke-width="8"/>')
+    for x in (-66, 66):
+        out += f'<path stroke="{DARK}" stroke-width="10" d="M{x} {y - 62}V{y + 62}"/>'
+    return out + caption(0, 372, "2 MIN", 44, DIM, 6)
+
+
+def turn_ball():
+    return ('<radialGradient id="ball" cx="0.38" cy="0.32" r="0.75"><stop offset="0" stop-color="#6a7482"/>'
+            '<stop offset="0.35" stop-color="#232a33"/><stop offset="1" stop-color="#04060a"/></radialGradient>'
+            f'<circle cy="{BALL_Y}" r="54" fill="url(#ball)"/>')
+
+
+def turn_plane():
+    wing = [(0, -26), (46, -16), (372, -11), (372, 11), (46, 22), (0, 28)]
+    fin = [(0, -128), (9, -128), (14, -30), (0, -30)]
+    tail = [(0, -112), (96, -106), (96, -90), (0, -84)]
+    out = shape(mirrored(tail)) + shape(mirrored(fin)) + shape(mirrored(wing))
+    return out + f'<circle r="52" fill="{WHITE}" stroke="{DARK}" stroke-width="10"/><circle r="20" fill="#1b2129"/>'
+
+
+def load_angle(g):
+    """Clockwise from up; 0 g points left."""
+    turned = 27 * abs(g) if abs(g) < 5 else 180 - 903.8492 * math.exp(-0.6 * abs(g))
+    return -90 + math.copysign(turned, g)
+
+
+def load_face():
+    out = disc()
+    for sign in (1, -1):
+        for tenths in range(0, 50, 2):
+            out += tick(load_angle(sign * tenths / 10), 430, 470, 5) if tenths % 10 else ""
+        for g in (5.5, 6.5, 7):
+            out += tick(load_angle(sign * g), 430, 470, 5)
+        for g in (0, 1, 2, 3, 4, 5, 6, 8):
+            angle = load_angle(sign * g)
+            out += tick(angle, 385, 470, 13) if g or sign > 0 else ""
+            if g < 8 and (g or sign > 0):
+                out += label(angle, 318, ("-" if sign < 0 else "") + str(g), 62)
+    return out + caption(0, -150, "G", 52, DIM)
+
+
+SLIP_ASPECT = 5.2605634
+
+
+def slip_ground():
+    """A square as wide as the strip; only its middle band is seen. A degree per second is 28 of its 747 units."""
+    half = 747 / SLIP_ASPECT / 2
+    out = (f'<rect x="-373.5" y="{half * 0.1:.1f}" width="747" height="{half * 0.9:.1f}" fill="#e6ebf0" fill-opacity="0.88"/>')
+    for rate, height in ((0, 0.38), (3, 0.38), (6, 0.22)):
+        for x in {rate * 28, -rate * 28}:
+            out += f'<path stroke="{DARK}" stroke-width="5" d="M{x} {half * 0.1:.1f}v{half * height:.1f}"/>'
+    for side in (-1, 1):
+        x = side * 44
+        out += f'<path stroke="{DARK}" stroke-width="11" d="M{x} {-half:.1f}V{half * 0.06:.1f}"/>'
+        out += f'<path stroke="{WHITE}" stroke-width="5" d="M{x} {-half:.1f}V{half * 0.06:.1f}"/>'
+    return out
+
+
+def slip_top():
+    return shape([(-66, -42), (66, -42), (66, 42), (-66, 42)], WHITE, width=8)
+
+
+def slip_bottom():
+    return shape(mirrored([(0, -50), (48, 46)]), "#ffffff", width=0)
+
+
+# --- Fields, lamps, battery -----------------------------------------------------------------------------------------
+
+def segment():
+    """Cut into nine by whoever draws it: the corners keep their size. White, to be tinted."""
+    return ('<linearGradient id="field" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#ffffff"/>'
+            '<stop offset="1" stop-color="#d4d4d4"/></linearGradient>'
+            '<rect x="-494" y="-494" width="988" height="988" rx="240" fill="#000" fill-opacity="0.55"/>'
+            '<rect x="-462" y="-462" width="924" height="924" rx="210" fill="#ffffff"/>'
+            '<rect x="-436" y="-436" width="872" height="872" rx="186" fill="#5a5a5a"/>'
+            '<rect x="-424" y="-424" width="848" height="848" rx="176" fill="url(#field)"/>')
+
+
+def lamp_ground():
+    return ('<radialGradient id="glow"><stop offset="0" stop-color="#ffffff"/><stop offset="0.62" stop-color="#ffffff"/>'
+            '<stop offset="1" stop-color="#9a9a9a"/></radialGradient><circle r="420" fill="url(#glow)"/>')
+
+
+def lamp_rim():
+    return ('<linearGradient id="rim" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#7b8796"/>'
+            '<stop offset="0.5" stop-color="#343c47"/><stop offset="1" stop-color="#15191f"/></linearGradient>' +
+            ring(404, 492, "url(#rim)") + ring(404, 422, "#05070a") + ring(484, 496, "#05070a"))
+
+
+def lamp():
+    glass = ('<linearGradient id="glass" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#fff" stop-opacity="0.85"/>'
+             '<stop offset="1" stop-color="#fff" stop-opacity="0.02"/></linearGradient>'
+             '<ellipse cy="-205" rx="262" ry="150" fill="url(#glass)"/>')
+    return glass + lamp_rim()
+
+
+def lamp_symbol(symbol):
+    """A lamp drawn in one piece: the tint colours rim and glass alike, the dark symbol stays."""
+    return (f'<circle r="496" fill="{DARK}"/><circle r="470" fill="#ffffff"/><circle r="424" fill="{DARK}"/>'
+            '<radialGradient id="glow"><stop offset="0" stop-color="#ffffff"/><stop offset="0.7" stop-color="#f2f2f2"/>'
+            '<stop offset="1" stop-color="#a8a8a8"/></radialGradient><circle r="404" fill="url(#glow)"/>' + symbol)
+
+
+def lamp_altitude():
+    arrow = [(0, -262), (86, -128), (30, -128), (30, 128), (86, 128), (0, 262)]
+    bars = "".join(f'<path fill="{DARK}" d="M-210 {y - 17}h420v34h-420z"/>' for y in (-300, 300))
+    return lamp_symbol(bars + shape(mirrored(arrow), DARK, width=0))
+
+
+def lamp_course():
+    track = f'<path fill="none" stroke="{DARK}" stroke-width="40" stroke-dasharray="84 46" d="M-150 320V-320"/>'
+    plane = "".join(f"{x * 0.86 + 90:.1f} {y * 0.86 + 30:.1f}L" for x, y in aircraft(1))[:-1]
+    return lamp_symbol(track + f'<path fill="{DARK}" d="M{plane}Z"/>')
+
+
+def lamp_speed():
+    out = f'<path fill="none" stroke="{DARK}" stroke-width="42" d="M-226 150A270 270 0 1 1 226 150"/>'
+    for angle in (-90, -45, 0, 45, 90):
+        out += tick(angle, 175, 260, 30, DARK)
+    return lamp_symbol(out + shape([at(50, 205), at(150, 34), at(-40, 34)], DARK, width=0) + f'<circle r="46" fill="{DARK}"/>')
+
+
+BATTERY = 1000, 465  # their ratio is the panel's
+
+
+def battery_outline(inset=0):
+    """Body and pole."""
+    x, y = 478 - inset, 206 - inset
+    pole = 40 - inset
+    return (f'M{-x + 60} {-y}H{x - 114}a54 54 0 0 1 54 54V-92h{pole}a20 20 0 0 1 20 20V72a20 20 0 0 1 -20 20h{-pole}V{y - 54}'
+            f'a54 54 0 0 1 -54 54H{-x + 60}a60 60 0 0 1 -60 -60V{-y + 60}a60 60 0 0 1 60 -60Z')
+
+
+def battery_shadow():
+    return (f'<path fill="{DARK}" fill-opacity="0.8" stroke="{DARK}" stroke-opacity="0.8" stroke-width="44" '
+            f'stroke-linejoin="round" d="{battery_outline()}"/>'
+            f'<path fill="{DARK}" stroke="#aab4c0" stroke-width="22" stroke-linejoin="round" d="{battery_outline()}"/>')
+
+
+def battery_color():
+    return (f'<linearGradient id="cell" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#ffffff"/>'
+            f'<stop offset="1" stop-color="#c4c4c4"/></linearGradient>'
+            f'<path fill="url(#cell)" d="{battery_outline(22)}"/>')
+
+
+def battery_light():
+    return ('<linearGradient id="gloss" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#fff" stop-opacity="0.75"/>'
+            '<stop offset="1" stop-color="#fff" stop-opacity="0.08"/></linearGradient>'
+            '<rect x="-428" y="-166" width="812" height="140" rx="40" fill="url(#gloss)"/>')
+
+
+def battery_charging():
+    bolt = [(40, -176), (-130, 26), (-18, 26), (-52, 176), (124, -44), (8, -44)]
+    return shape([(x - 24, y) for x, y in bolt], SYMBOL, width=14)
+
+
+def battery_unknown():
+    return digits(-24, 0, "?", 270, DARK)
+
+
 # --- Rings -----------------------------------------------------------------------------------------------------------
 
 def bezel():
@@ -300,6 +474,25 @@ def speed_preview():
     return whole(turned(0, out), turned(angle(112), hand_100()))
 
 
+def turn_preview():
+    return whole(turned(0, turn_face()), turned(0, f'<g transform="translate(-40 0)">{turn_ball()}</g>'),
+                 turned(20, turn_plane()))
+
+
+def load_preview():
+    return whole(turned(0, load_face()), turned(load_angle(1), hand_100()))
+
+
+def slip_preview():
+    half = 747 / SLIP_ASPECT / 2
+    top = f'<g transform="translate(30 {-half * 0.55:.1f}) scale({half * 0.9 / 100})">{slip_top()}</g>'
+    bottom = (f'<g transform="translate(84 {half * 0.72:.1f}) scale({half * 0.5 / 100})">'
+              f'{shape(mirrored([(0, -50), (48, 46)]), DARK, width=0)}</g>')
+    return (f'<clipPath id="w"><path d="M-373.5 {-half:.1f}h747v{2 * half:.1f}h-747z"/></clipPath><g clip-path="url(#w)">'
+            f'<rect x="-373.5" y="{-half:.1f}" width="747" height="{2 * half:.1f}" fill="#3a4048"/>'
+            f'{slip_ground()}{top}{bottom}</g>')
+
+
 def loading():
     path = "".join(f"{x * 0.7:.1f} {y * 0.7 - 60:.1f}L" for x, y in aircraft(1))[:-1]
     return (f'<circle r="500" fill="{DARK}"/>' + arc(-128, 128, 440, 16, "#2f7fd6") + arc(-128, -40, 440, 16, WHITE) +
@@ -321,12 +514,30 @@ DRAWINGS = {
     "attitude_preview": (256, 1000, attitude_preview), "alt_preview": (256, 1000, altimeter_preview),
     "comp_preview": (256, 1000, compass_preview), "vsi_preview": (256, 1000, vertical_preview),
     "speed_preview": (256, 1000, speed_preview),
+    "turn_bg": (512, 1000, turn_face), "turn_ball": (512, 1000, turn_ball), "turn_plane": (512, 1000, turn_plane),
+    "acc": (512, 1000, load_face),
+    "slip_bg": (1024, 747, slip_ground), "slip_top": ((192, 128), (150, 100), slip_top),
+    "slip_bot": ((128, 128), 100, slip_bottom),
+    "onesegment": (128, 1000, segment),
+    "lamp_bg": (256, 1000, lamp_ground), "lamp": (256, 1000, lamp), "lamp_alt": (256, 1000, lamp_altitude),
+    "lamp_course": (256, 1000, lamp_course), "lamp_speed": (256, 1000, lamp_speed),
+    "battery2Shadow": ((512, 238), BATTERY, battery_shadow), "battery2Color": ((512, 238), BATTERY, battery_color),
+    "battery2Light": ((512, 238), BATTERY, battery_light), "battery2Charging": ((512, 238), BATTERY, battery_charging),
+    "battery2Unknown": ((512, 238), BATTERY, battery_unknown),
+    "turn_preview": (256, 1000, turn_preview), "acc_preview": (256, 1000, load_preview),
+    "slip_preview": ((512, 97), (747, 142), slip_preview),
 }
+
+
+def pair(value):
+    return value if isinstance(value, tuple) else (value, value)
+
 
 if __name__ == "__main__":
     folder = pathlib.Path(sys.argv[1])
     for name, (size, units, draw) in DRAWINGS.items():
-        half = units // 2
+        (width, height), (across, down) = pair(size), pair(units)
+        left, top = (v // 2 if v % 2 == 0 else v / 2 for v in (across, down))
         folder.joinpath(name + ".svg").write_text(
-            f'<svg xmlns="http://www.w3.org/2000/svg" width="{size}" height="{size}" '
-            f'viewBox="{-half} {-half} {units} {units}">\n{draw()}\n</svg>\n'.replace("/><", "/>\n<"))
+            f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{height}" '
+            f'viewBox="{-left} {-top} {across} {down}">\n{draw()}\n</svg>\n'.replace("/><", "/>\n<"))

@@ -10,7 +10,7 @@ namespace skyvane {
 
 class Context;
 
-/// What the factories of the round dials have in common: no settings to read, a preview image.
+/// What the factories of the round dials have in common: a preview image, and no settings unless one adds some.
 class DialFactory : public IPanelFactory {
 public:
     void loadSetupFromIni(IniFile*, std::string) override {}
@@ -24,9 +24,9 @@ protected:
     DialFactory(Context* context, const char* name, const char* previewPath)
         : context_(context), name_(name), previewPath_(previewPath) {}
 
-    template <class Panel>
-    std::unique_ptr<IPanel> make() {
-        auto panel = std::make_unique<Panel>(context_);
+    template <class Panel, class... Settings>
+    std::unique_ptr<IPanel> make(const Settings&... settings) {
+        auto panel = std::make_unique<Panel>(context_, settings...);
         panel->setFactory(this);
         return panel;
     }

@@ -52,6 +52,16 @@ void DialFlagView::drawShapes(DialFlag flag, const DialFrame& frame) {
     drawer_->setColor(white);
 }
 
+void DialFlagView::drawCross(const irr::core::rect<int>& rect) {
+    // The arms reach from 0.2 to 0.8 of the mask.
+    const Drawer2D::PointF arms[4] = {{0.16f, 0.16f}, {0.84f, 0.16f}, {0.16f, 0.84f}, {0.84f, 0.84f}};
+    drawer_->setColor(red);
+    drawer_->setTextureCoordinates(arms);
+    drawer_->Draw(cross_.get(), rect);
+    drawer_->setTextureCoordinates(nullptr);
+    drawer_->setColor(white);
+}
+
 void DialFlagView::drawWords(DialFlag flag, const irr::core::rect<int>& square, FlexibleFont* font,
                              const wchar_t* name) {
     if (flag != DialFlag::Simulated && flag != DialFlag::Failed)

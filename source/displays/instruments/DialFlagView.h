@@ -21,6 +21,8 @@ public:
 
     /// Ring and cross, over everything else of the dial, local to its square.
     void drawShapes(DialFlag flag, const DialFrame& frame);
+    /// A red cross over any rectangle of the viewport.
+    void drawCross(const irr::core::rect<int>& rect);
     /// The words, in screen coordinates. `name` is the failed quantity's.
     void drawWords(DialFlag flag, const irr::core::rect<int>& square, FlexibleFont* font, const wchar_t* name);
 

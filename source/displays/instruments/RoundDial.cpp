@@ -93,6 +93,14 @@ void RoundDial::drawHand(const PanelTexture& image, const DialFrame& frame, doub
     drawFacePart(image, {0.4375f, 0.0f, 0.5625f, 1.0f}, frame, rotationDegrees);
 }
 
+irr::core::rect<int> RoundDial::facePart(const irr::core::rect<float>& part, const DialFrame& frame) {
+    const auto pixel = [&frame](int centre, float fraction) {
+        return centre + static_cast<int>(std::lround((fraction - 0.5f) * static_cast<float>(frame.faceSize)));
+    };
+    return {pixel(frame.centre.X, part.UpperLeftCorner.X), pixel(frame.centre.Y, part.UpperLeftCorner.Y),
+            pixel(frame.centre.X, part.LowerRightCorner.X), pixel(frame.centre.Y, part.LowerRightCorner.Y)};
+}
+
 void RoundDial::drawSquare(const PanelTexture& image, const DialFrame& frame) const {
     drawer_->Draw(image.get(), {0, 0}, {frame.edge, frame.edge}, 0.0f, {0.0f, 0.0f});
 }

@@ -63,6 +63,10 @@ protected:
     void drawSquare(const PanelTexture& image, const DialFrame& frame) const;
     /// The dark ground of a dial whose picture went with its value.
     void drawDarkGround(const DialFrame& frame) const;
+    /// Where a part of a face lies, as fractions of the face's edge.
+    static irr::core::rect<int> facePart(const irr::core::rect<float>& part, const DialFrame& frame);
+    /// A part of the dial has failed.
+    void drawCross(const irr::core::rect<int>& rect) { flagView_.drawCross(rect); }
     /// For faces and their fixed scale: yellow when in doubt, dark when failed, white otherwise.
     static irr::video::SColor scaleColor(DialFlag flag);
 

@@ -2,7 +2,9 @@
 #include "displays/instruments/AltimeterFactory.h"
 #include "displays/instruments/AttitudeIndicatorFactory.h"
 #include "displays/instruments/CompassFactory.h"
+#include "displays/instruments/GMeterFactory.h"
 #include "displays/instruments/SpeedIndicatorFactory.h"
+#include "displays/instruments/TurnRateIndicatorFactory.h"
 #include "displays/instruments/VerticalSpeedIndicatorFactory.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +18,8 @@ TEST(DialFactory, names) {
     EXPECT_EQ(CompassFactory(nullptr).getName(), "Compass");
     EXPECT_EQ(VerticalSpeedIndicatorFactory(nullptr).getName(), "VerticalSpeedIndicator");
     EXPECT_EQ(SpeedIndicatorFactory(nullptr).getName(), "Ground/AirSpeedIndicator");
+    EXPECT_EQ(TurnRateIndicatorFactory(nullptr).getName(), "TurnCoordinator");
+    EXPECT_EQ(GMeterFactory(nullptr).getName(), "G-Meter");
 }
 
 TEST(DialFactory, setupWritesTheDefaultSensorIntoItsSectionAlone) {

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "displays/instruments/DialFactory.h"
+#include "displays/instruments/TurnRateIndicator.h"
+
+namespace skyvane {
+
+class TurnRateIndicatorFactory : public DialFactory {
+public:
+    explicit TurnRateIndicatorFactory(Context* context)
+        : DialFactory(context, "TurnCoordinator", "media/turn_preview.png") {}
+    void loadSetupFromIni(IniFile* ini, std::string section) override;
+    bool setup(IniFile* ini, std::string section) override;
+    std::unique_ptr<IPanel> Create() override { return make<TurnRateIndicator>(drawText_); }
+
+private:
+    bool drawText_ = true;
+};
+
+} // namespace skyvane
