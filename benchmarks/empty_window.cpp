@@ -6,8 +6,9 @@
 int main(int argc, char** argv) {
     irr::SIrrlichtCreationParameters parameters;
     parameters.DriverType = irr::video::EDT_OPENGL;
-    parameters.WindowSize = irr::core::dimension2d<irr::u32>(argc > 1 ? static_cast<irr::u32>(std::atoi(argv[1])) : 1280,
-                                                             argc > 2 ? static_cast<irr::u32>(std::atoi(argv[2])) : 720);
+    parameters.WindowSize =
+        irr::core::dimension2d<irr::u32>(argc > 1 ? static_cast<irr::u32>(std::atoi(argv[1])) : 1280,
+                                         argc > 2 ? static_cast<irr::u32>(std::atoi(argv[2])) : 720);
     parameters.Bits = 32;
     parameters.Stencilbuffer = true;
     irr::IrrlichtDevice* device = irr::createDeviceEx(parameters);

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <unistd.h>
 
 namespace skyvane {
 
@@ -14,6 +15,16 @@ std::string buildFolder;
 
 bool holds(const Bench& bench, double value) {
     return bench.kind == Bench::Bound::AtMost ? value <= bench.limit : value >= bench.limit;
+}
+
+/// What the measured program says goes to a file; the figures keep the standard output for themselves.
+FILE* keepFiguresApart() {
+    std::fflush(stdout);
+    FILE* figures = ::fdopen(::dup(STDOUT_FILENO), "w");
+    const std::string log = buildFolder + "/bench-output.log";
+    if (!figures || !std::freopen(log.c_str(), "w", stdout))
+        return stdout;
+    return figures;
 }
 
 } // namespace
@@ -57,6 +68,7 @@ int runBenches(int argc, char** argv) {
         else
             words.push_back(argv[i]);
     }
+    FILE* figures = keepFiguresApart();
     bool allHold = true;
     for (const auto& list : {recordBenches(), frameBenches(), startBenches(), areaBenches()}) {
         for (const Bench& bench : list) {
@@ -64,9 +76,9 @@ int runBenches(int argc, char** argv) {
             if (!words.empty() && std::none_of(words.begin(), words.end(), named))
                 continue;
             const double value = bench.measure(smoke);
-            std::printf("%s %.4g %s%g\n", bench.name.c_str(), value,
-                        bench.kind == Bench::Bound::AtMost ? "<=" : ">=", bench.limit);
-            std::fflush(stdout);
+            std::fprintf(figures, "%s %.4g %s%g\n", bench.name.c_str(), value,
+                         bench.kind == Bench::Bound::AtMost ? "<=" : ">=", bench.limit);
+            std::fflush(figures);
             allHold = allHold && (smoke ? !std::isnan(value) : holds(bench, value));
         }
     }

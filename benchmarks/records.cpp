@@ -81,8 +81,8 @@ private:
 
 size_t flightGearDatagram(uint8_t (&bytes)[168], int step) {
     ByteWriter out(bytes, sizeof bytes);
-    for (double value : {0.02, 1.0 + step * 0.001, 0.1, 0.0, 0.0, 0.0, -9.81, 0.1, 0.1, 57.0, 100.0, 900.0, 42.0, -28.0,
-                         1.5, 12.0})
+    for (double value :
+         {0.02, 1.0 + step * 0.001, 0.1, 0.0, 0.0, 0.0, -9.81, 0.1, 0.1, 57.0, 100.0, 900.0, 42.0, -28.0, 1.5, 12.0})
         out.big(value);
     for (int value : {10, 20, step % 60, 1, 6, 2026})
         out.big(static_cast<int32_t>(value));

@@ -26,8 +26,8 @@ bool prepareHome() {
 double firstFrameSeconds() {
     std::remove(statsFile().c_str());
     const std::string program = benchBuildFolder() + "/bench-home/skyvane";
-    const std::string command = "SKYVANE_FRAME_STATS=" + statsFile() + " SKYVANE_FRAMES=1 " + program +
-                                " 1280 720 >/dev/null 2>&1";
+    const std::string command =
+        "SKYVANE_FRAME_STATS=" + statsFile() + " SKYVANE_FRAMES=1 " + program + " 1280 720 >/dev/null 2>&1";
     if (std::system(command.c_str()) != 0)
         return std::nan("");
     std::ifstream in(statsFile());

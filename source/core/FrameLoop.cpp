@@ -18,7 +18,7 @@ FrameLoop::FrameLoop(Context& context)
       background_(context.getSkin()->getColor("bg")), touch_(device_), stats_(FrameStats::fromEnvironment()) {}
 
 void FrameLoop::run() {
-    while (runFrame()) {
+    while (runFrame() && !stats_.isComplete()) {
     }
     if (!stats_.write())
         logText("The frame statistics can't be written.\n");

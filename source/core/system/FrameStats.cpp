@@ -36,14 +36,15 @@ double processStart() {
 
 } // namespace
 
-FrameStats::FrameStats(std::string file) : file_(std::move(file)) {
+FrameStats::FrameStats(std::string file, std::size_t frameLimit) : file_(std::move(file)), frameLimit_(frameLimit) {
     if (!file_.empty())
         work_.resize(MaxFrames);
 }
 
 FrameStats FrameStats::fromEnvironment() {
     const char* file = std::getenv("SKYVANE_FRAME_STATS");
-    return FrameStats(file ? file : "");
+    const char* limit = std::getenv("SKYVANE_FRAMES");
+    return FrameStats(file ? file : "", limit ? toUnsigned(limit) : 0);
 }
 
 void FrameStats::beginFrame() {

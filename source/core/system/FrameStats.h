@@ -12,12 +12,13 @@ namespace skyvane {
 ///     firstFrameMonotonicSeconds=<the same moment on the system's monotonic clock>
 ///     frames=<number of frames; at most the last 65536 are listed>
 ///     workMilliseconds=<one line for each frame, in order>
+/// With SKYVANE_FRAMES set to a number, the program ends by itself after that many frames.
 /// Nothing is allocated between construction and the end.
 class FrameStats {
 public:
     /// An empty file name measures nothing.
-    explicit FrameStats(std::string file);
-    /// With the file that the environment names.
+    explicit FrameStats(std::string file, std::size_t frameLimit = 0);
+    /// With the file and the limit that the environment names.
     static FrameStats fromEnvironment();
 
     void beginFrame();
@@ -26,6 +27,8 @@ public:
     void resumeFrame();
     void endFrame();
 
+    /// The frames that were asked for have been drawn. Never without a limit.
+    bool isComplete() const { return frameLimit_ > 0 && frames_ >= frameLimit_; }
     /// False when the file can't be written. Nothing for an idle object.
     bool write() const;
 
@@ -33,6 +36,7 @@ private:
     static constexpr std::size_t MaxFrames = 65536;
 
     std::string file_;
+    std::size_t frameLimit_;
     std::vector<double> work_; ///< milliseconds, a ring once it is full
     std::size_t frames_ = 0;
     double begun_ = 0.0;
