@@ -5,4 +5,4 @@ build=$1
 # The engine and Mesa keep allocations for the life of the process; what a test itself leaks is told in lower_tests.
 "$build/tests/lower_tests" --gtest_brief=1
 "$build/tests/tool_tests" --gtest_brief=1
-ASAN_OPTIONS=detect_leaks=0 xvfb-run -a -s '-screen 0 1920x1080x24' "$build/tests/upper_tests" --gtest_brief=1
+ASAN_OPTIONS=detect_leaks=0 tools/demo/with-display.sh "$build/tests/upper_tests" --gtest_brief=1

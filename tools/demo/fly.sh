@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # fly.sh BUILD HOME [WIDTH HEIGHT]: starts the program on a prepared home and feeds it the demo flight.
-# Without a display: on a virtual one, for SECONDS (20) seconds, with screenshots left in the home's Screenshots folder.
+# Without a display: on a virtual one, for SECONDS_TO_FLY (20) seconds, with screenshots left in the home's folder.
 set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
 build=$1
 home=$2
 width=${3:-1280}
@@ -19,40 +20,32 @@ feed() {
     started+=($!)
 }
 
-if [ -n "${DISPLAY:-}" ]; then
+if [ -z "${DISPLAY:-}" ]; then
+    SKYVANE_VIRTUAL=1 exec "$here/with-display.sh" "$0" "$@"
+fi
+
+if [ -z "${SKYVANE_VIRTUAL:-}" ]; then
     feed
     "$home/skyvane" "$width" "$height"
     exit
 fi
-
-seconds=${SECONDS_TO_FLY:-20}
-display=$(mktemp)
-Xvfb -displayfd 3 -screen 0 1920x1080x24 -noreset -nolisten tcp 3>"$display" 2>/dev/null &
-started+=($!)
-for _ in $(seq 100); do
-    [ -s "$display" ] && break
-    sleep 0.1
-done
-DISPLAY=:$(cat "$display")
-export DISPLAY
-rm -f "$display"
 
 feed --speed 4
 "$home/skyvane" "$width" "$height" >"$home/skyvane.out" 2>&1 &
 program=$!
 started+=("$program")
 window=
-for _ in $(seq 100); do
-    window=$(xdotool search --name '^Skyvane' 2>/dev/null | head -1) && [ -n "$window" ] && break
+for _ in $(seq 200); do
+    window=$(xdotool search --name '^Skyvane .*FPS' 2>/dev/null | head -1) && [ -n "$window" ] && break
     kill -0 "$program" 2>/dev/null || { cat "$home/skyvane.out"; echo "The program ended early." >&2; exit 1; }
     sleep 0.1
 done
-sleep 2
-xdotool windowfocus "$window" 2>/dev/null || true
-xdotool key Return
+sleep 1
+xdotool windowfocus "$window" key Return
+seconds=${SECONDS_TO_FLY:-20}
 for _ in 1 2 3; do
-    sleep $((seconds / 4))
-    xdotool key Insert
+    sleep $((seconds / 3))
+    xdotool windowfocus "$window" key Insert
 done
 sleep 1
 echo "No display: flew on a virtual one. Screenshots:"
