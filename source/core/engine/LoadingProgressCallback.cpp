@@ -9,7 +9,11 @@ namespace {
 
 using Rect = irr::core::rect<irr::s32>;
 
-Rect fitted(const irr::core::dimension2d<irr::u32>& picture, const Rect& place) {
+/// The picture in the middle of the screen, two fifths of its height: small, because each step draws it again.
+Rect fitted(const irr::core::dimension2d<irr::u32>& picture, const Rect& screen) {
+    Rect place = screen;
+    place.UpperLeftCorner.Y += screen.getHeight() * 3 / 10;
+    place.LowerRightCorner.Y -= screen.getHeight() * 3 / 10;
     return makeXic(place, static_cast<float>(picture.Width) / static_cast<float>(std::max(picture.Height, 1u)));
 }
 

@@ -1,5 +1,6 @@
 #include "displays/instruments/DialFlagView.h"
 
+#include "core/engine/MipmappedTexture.h"
 #include "displays/drawing/Drawer2D.h"
 #include "displays/gauges/FlagMasks.h"
 
@@ -30,7 +31,7 @@ PanelTexture makeMask(irr::video::IVideoDriver* driver, const char* name, double
             image->setPixel(x, y, SColor(static_cast<irr::u32>(alpha * 255.0 + 0.5), 255, 255, 255));
         }
     }
-    return PanelTexture(driver, driver->addTexture(name, image.get()));
+    return PanelTexture(driver, addMipmappedTexture(driver, name, *image));
 }
 
 } // namespace

@@ -1,11 +1,13 @@
 #include "displays/instruments/PanelTexture.h"
 
+#include "core/engine/MipmappedTexture.h"
+
 #include <utility>
 
 namespace skyvane {
 
 PanelTexture::PanelTexture(irr::video::IVideoDriver* driver, const std::string& path)
-    : PanelTexture(driver, driver->getTexture(path.c_str())) {}
+    : PanelTexture(driver, loadMipmappedTexture(driver, path)) {}
 
 PanelTexture::PanelTexture(irr::video::IVideoDriver* driver, irr::video::ITexture* texture)
     : driver_(EngineRef<irr::video::IVideoDriver>::share(driver)),
