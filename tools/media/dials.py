@@ -499,6 +499,10 @@ def loading():
             f'<path fill="{WHITE}" d="M{path}Z"/>' + caption(0, 300, "SKYVANE", 76, WHITE, 22))
 
 
+# Parts of a drawing's edge, left, top, right, bottom: pictures that are empty elsewhere hold only this part.
+WHOLE, HAND, BUG, TOP = (0, 0, 1, 1), (0.4375, 0, 0.5625, 1), (0.4375, 0, 0.5625, 0.0625), (0.1875, 0.0625, 0.8125, 0.5625)
+PARTS = {"alt_100": HAND, "alt_1000": HAND, "alt_10000": HAND, "comp_bug": BUG, "att_top": TOP}
+
 DRAWINGS = {
     "speed_bg": (512, 1000, disc), "alt_bg": (512, 1000, altimeter_face), "vsi_bg": (512, 1000, feet_face), "vsi_bg_m": (512, 1000, metre_face),
     "comp_card": (512, 1000, compass_card), "comp_plane": (512, 1000, compass_plane),
@@ -537,7 +541,9 @@ if __name__ == "__main__":
     folder = pathlib.Path(sys.argv[1])
     for name, (size, units, draw) in DRAWINGS.items():
         (width, height), (across, down) = pair(size), pair(units)
-        left, top = (v // 2 if v % 2 == 0 else v / 2 for v in (across, down))
+        left, top, right, bottom = PARTS.get(name, WHOLE)
+        share_across, share_down = right - left, bottom - top
         folder.joinpath(name + ".svg").write_text(
-            f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{height}" '
-            f'viewBox="{-left} {-top} {across} {down}">\n{draw()}\n</svg>\n'.replace("/><", "/>\n<"))
+            f'<svg xmlns="http://www.w3.org/2000/svg" width="{width * share_across:g}" height="{height * share_down:g}" '
+            f'viewBox="{(left - 0.5) * across:g} {(top - 0.5) * down:g} {across * share_across:g} {down * share_down:g}">'
+            f'\n{draw()}\n</svg>\n'.replace("/><", "/>\n<"))

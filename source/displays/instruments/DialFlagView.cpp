@@ -25,10 +25,14 @@ PanelTexture makeMask(irr::video::IVideoDriver* driver, const char* name, double
         driver->createImage(irr::video::ECF_A8R8G8B8, irr::core::dimension2d<irr::u32>(size, size)));
     if (!image)
         return PanelTexture();
-    for (irr::u32 y = 0; y < size; ++y) {
-        for (irr::u32 x = 0; x < size; ++x) {
+    // Both shapes are symmetric: a quarter is computed, the rest mirrored.
+    for (irr::u32 y = 0; y < size / 2; ++y) {
+        for (irr::u32 x = 0; x < size / 2; ++x) {
             const double alpha = coverage((x + 0.5) / size, (y + 0.5) / size, 1.5 / size);
-            image->setPixel(x, y, SColor(static_cast<irr::u32>(alpha * 255.0 + 0.5), 255, 255, 255));
+            const SColor color(static_cast<irr::u32>(alpha * 255.0 + 0.5), 255, 255, 255);
+            for (const irr::u32 row : {y, size - 1 - y})
+                for (const irr::u32 column : {x, size - 1 - x})
+                    image->setPixel(column, row, color);
         }
     }
     return PanelTexture(driver, addMipmappedTexture(driver, name, *image));

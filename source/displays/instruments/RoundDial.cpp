@@ -78,15 +78,12 @@ void RoundDial::drawFace(const PanelTexture& image, const DialFrame& frame, doub
 
 void RoundDial::drawFacePart(const PanelTexture& image, const irr::core::rect<float>& part, const DialFrame& frame,
                              double rotationDegrees) const {
-    const irr::core::vector2d<float> from = part.UpperLeftCorner, to = part.LowerRightCorner;
-    const irr::core::vector2d<float> corners[4] = {from, {to.X, from.Y}, {from.X, to.Y}, to};
+    const irr::core::vector2d<float> from = part.UpperLeftCorner;
     const irr::core::vector2d<float> pivot((0.5f - from.X) / part.getWidth(), (0.5f - from.Y) / part.getHeight());
-    drawer_->setTextureCoordinates(corners);
     drawer_->Draw(image.get(), frame.centre,
                   {static_cast<int>(std::lround(part.getWidth() * static_cast<float>(frame.faceSize))),
                    static_cast<int>(std::lround(part.getHeight() * static_cast<float>(frame.faceSize)))},
                   static_cast<float>(rotationDegrees), pivot);
-    drawer_->setTextureCoordinates(nullptr);
 }
 
 void RoundDial::drawHand(const PanelTexture& image, const DialFrame& frame, double rotationDegrees) const {

@@ -15,13 +15,12 @@
 namespace skyvane {
 
 VerticalSpeedIndicator::VerticalSpeedIndicator(Context* context)
-    : RoundDial(context), feetFace_(loadImage("media/vsi_bg.png")), metreFace_(loadImage("media/vsi_bg_m.png")),
-      needle_(loadImage("media/alt_100.png")) {}
+    : RoundDial(context), metric_(context->getPanelManager()->isMetric()),
+      face_(loadImage(metric_ ? "media/vsi_bg_m.png" : "media/vsi_bg.png")), needle_(loadImage("media/alt_100.png")) {}
 
 DialEvidence VerticalSpeedIndicator::readValue() {
     DialEvidence evidence;
     const auto* record = read<VerticalSpeed_Data>(ISensorData::VerticalSpeed, evidence);
-    metric_ = context_->getPanelManager()->isMetric();
     metresPerSecond_ = sensors_->getFilteredVerticalSpeed();
     evidence.finite = record && std::isfinite(record->value) && std::isfinite(metresPerSecond_);
     return evidence;
@@ -29,7 +28,7 @@ DialEvidence VerticalSpeedIndicator::readValue() {
 
 void VerticalSpeedIndicator::drawLayers(const DialFrame& frame, DialFlag flag) {
     drawer_->setColor(scaleColor(flag));
-    drawFace(metric_ ? metreFace_ : feetFace_, frame, 0.0);
+    drawFace(face_, frame, 0.0);
     if (isValueShown(flag))
         drawHand(needle_, frame, calcVerticalSpeedRotation(toFeetPerMinute(metresPerSecond_)));
 }

@@ -19,11 +19,10 @@ protected:
     const wchar_t* failureName() const override { return L"V/S"; }
 
 private:
-    PanelTexture feetFace_;
-    PanelTexture metreFace_;
+    bool metric_; ///< Another unit loads the panels anew.
+    PanelTexture face_;
     PanelTexture needle_;
     DialText number_;
-    bool metric_ = false;
     double metresPerSecond_ = 0.0;
 };
 
