@@ -7,6 +7,7 @@ namespace {
 using Part = irr::core::rect<float>;
 
 const Part whole(0, 0, 1, 1);
+/// Where a picture that holds only a part of the face lies in it.
 const Part hand(0.4375f, 0.0f, 0.5625f, 1.0f);
 constexpr float faceShare = 0.839344262295082f;
 
@@ -58,12 +59,11 @@ void PlainPage::addDial(const std::string& media, const irr::core::rect<int>& pl
         const float left = centre.X - 0.5f * size, upper = centre.Y - 0.5f * size;
         addQuad(driver_->getTexture((media + name + ".png").c_str()),
                 {left + cut.UpperLeftCorner.X * size, upper + cut.UpperLeftCorner.Y * size,
-                 left + cut.LowerRightCorner.X * size, upper + cut.LowerRightCorner.Y * size},
-                cut);
+                 left + cut.LowerRightCorner.X * size, upper + cut.LowerRightCorner.Y * size});
     }
 }
 
-void PlainPage::addQuad(irr::video::ITexture* texture, const Part& screen, const Part& part) {
+void PlainPage::addQuad(irr::video::ITexture* texture, const Part& screen) {
     const auto vertex = [](const irr::core::vector2d<float>& at, const irr::core::vector2d<float>& from) {
         return irr::video::S3DVertex(at.X, at.Y, 0, 0, 0, -1, irr::video::SColor(0xffffffff), from.X, from.Y);
     };
@@ -73,7 +73,7 @@ void PlainPage::addQuad(irr::video::ITexture* texture, const Part& screen, const
     };
     Quad quad{texture, {}};
     for (int i = 0; i < 4; ++i)
-        quad.vertices[i] = vertex(corner(screen, i), corner(part, i));
+        quad.vertices[i] = vertex(corner(screen, i), corner(whole, i));
     quads_.push_back(quad);
 }
 

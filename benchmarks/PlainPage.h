@@ -24,8 +24,7 @@ private:
 
     void addDial(const std::string& media, const irr::core::rect<int>& place,
                  const std::vector<std::pair<std::string, irr::core::rect<float>>>& layers);
-    void addQuad(irr::video::ITexture* texture, const irr::core::rect<float>& screen,
-                 const irr::core::rect<float>& part);
+    void addQuad(irr::video::ITexture* texture, const irr::core::rect<float>& screen);
 
     irr::video::IVideoDriver* driver_;
     irr::video::SMaterial material_;
