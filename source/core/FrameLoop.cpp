@@ -18,7 +18,7 @@ FrameLoop::FrameLoop(Context& context)
       background_(context.getSkin()->getColor("bg")), touch_(device_), stats_(FrameStats::fromEnvironment()) {}
 
 void FrameLoop::run() {
-    while (runFrame() && !stats_.isComplete()) {
+    while (runFrame()) {
     }
     if (!stats_.write())
         logText("The frame statistics can't be written.\n");
@@ -37,6 +37,8 @@ bool FrameLoop::runFrame() {
     draw();
     updateCaption();
     stats_.endFrame();
+    if (stats_.isEnough())
+        context_.setShallExit(true);
     return true;
 }
 

@@ -36,15 +36,15 @@ double processStart() {
 
 } // namespace
 
-FrameStats::FrameStats(std::string file, std::size_t frameLimit) : file_(std::move(file)), frameLimit_(frameLimit) {
+FrameStats::FrameStats(std::string file, unsigned wanted) : file_(std::move(file)), wanted_(wanted) {
     if (!file_.empty())
         work_.resize(MaxFrames);
 }
 
 FrameStats FrameStats::fromEnvironment() {
     const char* file = std::getenv("SKYVANE_FRAME_STATS");
-    const char* limit = std::getenv("SKYVANE_FRAMES");
-    return FrameStats(file ? file : "", limit ? toUnsigned(limit) : 0);
+    const char* frames = std::getenv("SKYVANE_FRAMES");
+    return FrameStats(file ? file : "", frames ? toUnsigned(frames) : 0);
 }
 
 void FrameStats::beginFrame() {
@@ -61,8 +61,10 @@ void FrameStats::resumeFrame() {
 }
 
 void FrameStats::endFrame() {
-    if (file_.empty())
+    if (file_.empty()) {
+        ++frames_;
         return;
+    }
     const double ended = now(CLOCK_MONOTONIC);
     worked_ += ended - begun_;
     if (frames_ == 0) {

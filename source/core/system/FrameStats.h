@@ -12,13 +12,13 @@ namespace skyvane {
 ///     firstFrameMonotonicSeconds=<the same moment on the system's monotonic clock>
 ///     frames=<number of frames; at most the last 65536 are listed>
 ///     workMilliseconds=<one line for each frame, in order>
-/// With SKYVANE_FRAMES set to a number, the program ends by itself after that many frames.
+/// The variable SKYVANE_FRAMES ends the program after so many frames, with or without that file.
 /// Nothing is allocated between construction and the end.
 class FrameStats {
 public:
-    /// An empty file name measures nothing.
-    explicit FrameStats(std::string file, std::size_t frameLimit = 0);
-    /// With the file and the limit that the environment names.
+    /// An empty file name measures nothing; `wanted` 0 wants no end.
+    explicit FrameStats(std::string file, unsigned wanted = 0);
+    /// With the file and the number that the environment tells.
     static FrameStats fromEnvironment();
 
     void beginFrame();
@@ -26,9 +26,9 @@ public:
     void pauseFrame();
     void resumeFrame();
     void endFrame();
+    /// As many frames as were wanted have been drawn.
+    bool isEnough() const { return wanted_ > 0 && frames_ >= wanted_; }
 
-    /// The frames that were asked for have been drawn. Never without a limit.
-    bool isComplete() const { return frameLimit_ > 0 && frames_ >= frameLimit_; }
     /// False when the file can't be written. Nothing for an idle object.
     bool write() const;
 
@@ -36,7 +36,7 @@ private:
     static constexpr std::size_t MaxFrames = 65536;
 
     std::string file_;
-    std::size_t frameLimit_;
+    std::size_t wanted_;
     std::vector<double> work_; ///< milliseconds, a ring once it is full
     std::size_t frames_ = 0;
     double begun_ = 0.0;

@@ -119,4 +119,15 @@ TEST(FrameStats, ListsTheWorkOfEachFrameWithoutThePause) {
     EXPECT_TRUE(FrameStats("").write());
 }
 
+TEST(FrameStats, EndsAfterTheFramesThatWereWanted) {
+    FrameStats stats("", 2);
+    stats.endFrame();
+    EXPECT_FALSE(stats.isEnough());
+    stats.endFrame();
+    EXPECT_TRUE(stats.isEnough());
+    FrameStats endless("");
+    endless.endFrame();
+    EXPECT_FALSE(endless.isEnough());
+}
+
 } // namespace skyvane
