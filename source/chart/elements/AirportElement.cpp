@@ -5,8 +5,10 @@
 #include "chart/elements/NameWords.h"
 #include "chart/elements/RunwayForms.h"
 #include "chart/geodesy/GreatCircle.h"
+#include "chart/names/IndexCase.h"
 
 #include <algorithm>
+#include <set>
 
 namespace skyvane {
 
@@ -189,9 +191,10 @@ void AirportElement::recalculateInsertionNames() const {
     for (const std::string* text : {&ident, &name})
         for (std::string& word : splitIntoWords(*text))
             names.push_back(std::move(word));
+    std::set<std::string> taken;
     for (std::string& candidate : names) {
-        const auto isIt = [&candidate](const std::string& known) { return isSameName(known, candidate); };
-        if (!candidate.empty() && std::none_of(insertionNames_.begin(), insertionNames_.end(), isIt))
+        const bool isNew = taken.insert(upperCaseName(candidate)).second;
+        if (isNew && !candidate.empty())
             insertionNames_.push_back(std::move(candidate));
     }
 }

@@ -5,6 +5,7 @@
 #include "chart/elements/IniForms.h"
 #include "chart/elements/RecordForms.h"
 
+#include <algorithm>
 #include <ostream>
 #include <utility>
 
@@ -20,14 +21,14 @@ void ChartElement<Kind, kindType>::write(std::ostream& out) const {
 
 template <class Kind, IChartElement::Type kindType>
 bool ChartElement<Kind, kindType>::readFromBuffer(const char* bytes, unsigned& position, unsigned length) {
-    setDefaults();
-    if (position > length)
-        return false;
-    RecordReader form(bytes + position, length - position);
+    const unsigned begin = std::min(position, length);
+    RecordReader form(bytes + begin, length - begin);
     Kind read;
     Kind::record(read, form);
-    if (form.fail())
+    if (form.fail()) {
+        setDefaults();
         return false;
+    }
     self() = std::move(read);
     self().derive();
     position += static_cast<unsigned>(form.size());

@@ -1,16 +1,10 @@
 #include "chart/elements/NameWords.h"
 
-#include <algorithm>
-
 namespace skyvane {
 
 namespace {
 
 constexpr char separators[] = "\t #&'()*+,-./:;<=>[\\]_{|}~";
-
-char upper(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
 
 } // namespace
 
@@ -23,10 +17,6 @@ std::vector<std::string> splitIntoWords(const std::string& text) {
     if (begin < text.size())
         words.push_back(text.substr(begin));
     return words;
-}
-
-bool isSameName(const std::string& a, const std::string& b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return upper(x) == upper(y); });
 }
 
 } // namespace skyvane
