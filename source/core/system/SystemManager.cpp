@@ -38,6 +38,7 @@ SystemManager::SystemManager(Context* context, Drawer2D* drawer, const char* arg
     testMemory();
     skin_ = EngineRef<Skin>::adopt(new Skin(device_->getGUIEnvironment()));
     skin_->setButtonSize(context->getRecommendedButtonWidth(), context->getRecommendedButtonHeight());
+    skin_->loadMedia(drawer_, getAbsolutePath("media/"));
     device_->getGUIEnvironment()->setSkin(skin_.get());
     std::printf("apphome: %s ss: %s\n", appHome_.c_str(), home_.getMarkerPath().c_str());
     const bool isFirstStart = home_.isFirstStart();

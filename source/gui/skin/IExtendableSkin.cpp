@@ -21,15 +21,34 @@ void IExtendableSkin::setGUITransparency(int alpha) {
 }
 
 void IExtendableSkin::setGUIBrightness(float factor) {
-    const auto scaled = [factor](irr::u32 component) {
-        return static_cast<irr::u32>(std::clamp(static_cast<float>(component) * factor, 0.0f, 255.0f));
-    };
+    brightness_ = factor;
     for (std::size_t i = 0; i < baseColors_.size(); ++i) {
         const DefaultColor which = static_cast<DefaultColor>(i);
-        const SColor& base = baseColors_[i];
-        base_->setColor(which, SColor(base_->getColor(which).getAlpha(), scaled(base.getRed()), scaled(base.getGreen()),
-                                      scaled(base.getBlue())));
+        SColor color = brightened(baseColors_[i]);
+        color.setAlpha(base_->getColor(which).getAlpha());
+        base_->setColor(which, color);
     }
+}
+
+SColor IExtendableSkin::brightened(SColor color) const {
+    const auto scaled = [this](irr::u32 component) {
+        return static_cast<irr::u32>(std::clamp(static_cast<float>(component) * brightness_, 0.0f, 255.0f));
+    };
+    return SColor(color.getAlpha(), scaled(color.getRed()), scaled(color.getGreen()), scaled(color.getBlue()));
+}
+
+void IExtendableSkin::registerExtension(ISkinExtension* extension, int slot) {
+    if (slot < 0 || slot >= maximumExtensions)
+        return;
+    const auto index = static_cast<std::size_t>(slot);
+    if (index >= extensions_.size())
+        extensions_.resize(index + 1);
+    extensions_[index] = EngineRef<ISkinExtension>::share(extension);
+}
+
+ISkinExtension* IExtendableSkin::getExtension(int slot) const {
+    const bool known = slot >= 0 && static_cast<std::size_t>(slot) < extensions_.size();
+    return known ? extensions_[static_cast<std::size_t>(slot)].get() : nullptr;
 }
 
 SColor IExtendableSkin::getColor(DefaultColor color) const {

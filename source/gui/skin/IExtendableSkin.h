@@ -1,9 +1,11 @@
 #pragma once
 
 #include "core/engine/EngineRef.h"
+#include "gui/skin/ISkinExtension.h"
 
 #include <array>
 #include <irrlicht.h>
+#include <vector>
 
 namespace skyvane {
 
@@ -19,6 +21,13 @@ public:
     /// Red, green and blue of every default colour become the base colour's times the factor, rounded down. Never
     /// compounds: 1.0 restores the base colours. The alpha stays.
     void setGUIBrightness(float factor);
+
+    /// Keeps a reference under this slot in place of what was there; null empties it. At most maximumExtensions slots:
+    /// others are ignored.
+    void registerExtension(ISkinExtension* extension, int slot);
+    /// Null for an empty slot.
+    ISkinExtension* getExtension(int slot) const;
+    static constexpr int maximumExtensions = 64;
 
     // IGUISkin
     irr::video::SColor getColor(irr::gui::EGUI_DEFAULT_COLOR color) const override;
@@ -56,9 +65,15 @@ public:
     void draw2DRectangle(Element* element, const irr::video::SColor& color, const Rect& rect,
                          const Rect* clip) override;
 
+protected:
+    /// A colour as the brightness leaves it.
+    irr::video::SColor brightened(irr::video::SColor color) const;
+
 private:
     EngineRef<irr::gui::IGUISkin> base_;
     std::array<irr::video::SColor, irr::gui::EGDC_COUNT> baseColors_;
+    std::vector<EngineRef<ISkinExtension>> extensions_;
+    float brightness_ = 1.0f;
 };
 
 } // namespace skyvane
