@@ -93,6 +93,8 @@ private:
     void drawButtonFace(const ButtonStyle* style, bool enabled, const Rect& rect, const Rect* clip, bool pressed) const;
     void drawLamp(const ButtonStyle& style, bool enabled, const Rect& rect, const Rect* clip, bool pressed) const;
     void drawImage(irr::video::ITexture* image, Element* element, const Rect& rect, const Rect* clip) const;
+    /// The colour as brightness and transparency leave it on a pane.
+    irr::video::SColor paneTint(irr::video::SColor color) const;
     irr::video::SColor paneTint(bool enabled = true) const;
 
     irr::gui::IGUIEnvironment* environment_; ///< Owns the skin.

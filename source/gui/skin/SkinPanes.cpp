@@ -57,9 +57,14 @@ void tidyComboText(irr::gui::IGUIElement* comboBox, SColor color, int distance) 
 
 } // namespace
 
-SColor Skin::paneTint(bool enabled) const {
-    SColor tint = brightened(SColor(0xffffffff));
+SColor Skin::paneTint(SColor color) const {
+    SColor tint = brightened(color);
     tint.setAlpha(getColor(irr::gui::EGDC_3D_FACE).getAlpha());
+    return tint;
+}
+
+SColor Skin::paneTint(bool enabled) const {
+    const SColor tint = paneTint(SColor(0xffffffff));
     return enabled ? tint : faded(tint, disabledShare);
 }
 
@@ -86,7 +91,7 @@ void Skin::drawButton(Element* element, const Rect& rect, const Rect* clip, bool
     if (element && element->getType() == irr::gui::EGUIET_SCROLL_BAR) {
         Rect thumb = rect;
         inset(thumb, 2);
-        return panes_.rectangle->drawTinted(thumb, clip, getColor("rim"));
+        return panes_.rectangle->drawTinted(thumb, clip, paneTint(getColor("rim")));
     }
     if (isPaneless(element)) {
         if (pressed)
@@ -164,7 +169,7 @@ void Skin::draw3DSunkenPane(Element* element, SColor background, bool flat, bool
     if (fillBackground)
         panes_.sunkenFill->drawTinted(rect, clip, background);
     const bool isFocused = element && environment_->hasFocus(element);
-    const SColor rim = brightened(getColor(isFocused ? "focus" : "rim"));
+    const SColor rim = paneTint(getColor(isFocused ? "focus" : "rim"));
     (flat ? panes_.flatRim : panes_.sunkenRim)->drawTinted(rect, clip, enabled ? rim : faded(rim, disabledShare));
 }
 
@@ -215,7 +220,7 @@ void Skin::draw3DTabBody(Element* element, bool border, bool background, const R
     if (background)
         panes_.sunkenFill->drawTinted(body, clip, getColor(irr::gui::EGDC_WINDOW));
     if (border)
-        panes_.flatRim->drawTinted(body, clip, brightened(getColor("rim")));
+        panes_.flatRim->drawTinted(body, clip, paneTint(getColor("rim")));
 }
 
 void Skin::drawIcon(Element* element, irr::gui::EGUI_DEFAULT_ICON icon, const irr::core::position2di position,
