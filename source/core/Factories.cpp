@@ -5,6 +5,7 @@
 #include "displays/instruments/AttitudeIndicatorFactory.h"
 #include "displays/instruments/CompassFactory.h"
 #include "displays/instruments/GMeterFactory.h"
+#include "displays/instruments/OneSegmentPanelFactory.h"
 #include "displays/instruments/SpeedIndicatorFactory.h"
 #include "displays/instruments/TurnRateIndicatorFactory.h"
 #include "displays/instruments/VerticalSpeedIndicatorFactory.h"
@@ -35,7 +36,7 @@ void registerPanelFactories(Context& context, PanelManager& panels) {
     panels.addPanelFactory(nullptr); // Map3DFactory
     panels.addPanelFactory(std::make_unique<AltimeterFactory>(&context));
     panels.addPanelFactory(std::make_unique<CompassFactory>(&context));
-    panels.addPanelFactory(nullptr); // OneSegmentPanelFactory
+    panels.addPanelFactory(std::make_unique<OneSegmentPanelFactory>(&context));
     panels.addPanelFactory(nullptr); // WarningLampFactory
     panels.addPanelFactory(std::make_unique<VerticalSpeedIndicatorFactory>(&context));
     panels.addPanelFactory(std::make_unique<SpeedIndicatorFactory>(&context));

@@ -31,6 +31,8 @@ protected:
         return panel;
     }
 
+    Context* context() const { return context_; }
+
 private:
     Context* context_;
     const char* name_;

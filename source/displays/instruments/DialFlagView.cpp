@@ -48,6 +48,19 @@ SColor DialFlagView::markingColor(DialFlag flag) {
     return flag == DialFlag::Doubtful ? yellow : white;
 }
 
+SColor DialFlagView::flagColor(DialFlag flag) {
+    switch (flag) {
+    case DialFlag::Doubtful:
+        return yellow;
+    case DialFlag::Failed:
+        return red;
+    case DialFlag::Simulated:
+        return simulationBlue;
+    default:
+        return white;
+    }
+}
+
 void DialFlagView::drawShapes(DialFlag flag, const DialFrame& frame) {
     if (flag != DialFlag::Doubtful && flag != DialFlag::Failed)
         return;

@@ -26,6 +26,8 @@ public:
     /// The words, in screen coordinates. `name` is the failed quantity's.
     void drawWords(DialFlag flag, const irr::core::rect<int>& square, FlexibleFont* font, const wchar_t* name);
 
+    /// The colour that stands for a flag: white, yellow, red or blue.
+    static irr::video::SColor flagColor(DialFlag flag);
     /// The colour of a dial's markings and hands.
     static irr::video::SColor markingColor(DialFlag flag);
 

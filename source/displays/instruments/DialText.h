@@ -9,19 +9,22 @@ namespace skyvane {
 class FlexibleFont;
 
 /// A short text on a dial, centred in a box whose size decides its own. The size follows a sample text, so that a
-/// changing number keeps its height. Allocates only when the box or the sample changes.
+/// changing number keeps its height; a text that is larger than the sample is shrunk into the box. Allocates nothing
+/// while the text is no longer than any before.
 class DialText {
 public:
-    /// Screen coordinates, full viewport. Nothing without a font.
+    /// Screen coordinates, full viewport. Nothing without a font. Without a sample the text decides.
     void draw(FlexibleFont* font, const wchar_t* text, const wchar_t* sample, const irr::core::rect<int>& box,
               irr::video::SColor color);
 
 private:
+    float fittingScale() const;
+
     CachedText text_;
     FlexibleFont* font_ = nullptr;
     const wchar_t* sample_ = nullptr;
     irr::core::dimension2d<int> boxSize_{0, 0};
-    float scale_ = 1.0f;
+    float sampleScale_ = 1.0f;
 };
 
 } // namespace skyvane

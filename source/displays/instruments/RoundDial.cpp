@@ -4,7 +4,6 @@
 #include "core/geometry/Rectangles.h"
 #include "core/log/Logger.h"
 #include "displays/drawing/Drawer2D.h"
-#include "sensors/SensorManager.h"
 
 #include <cmath>
 #include <string>
@@ -33,18 +32,6 @@ PanelTexture RoundDial::loadImage(const char* path) {
         logText("A dial can't be drawn without its image " + std::string(path) + ".\n");
     }
     return image;
-}
-
-ISensorData* RoundDial::readRecord(ISensorData::Type type, DialEvidence& evidence) {
-    evidence = DialEvidence();
-    ISensor* sensor = sensors_->getDefaultSensor(type);
-    if (!sensor || !sensor->isDataTypeSupported(type))
-        return nullptr;
-    ISensorData* record = sensor->getData(type);
-    evidence.present = record != nullptr;
-    evidence.warning = sensor->getWarning(type);
-    evidence.simulating = sensors_->isSimulationActive();
-    return record;
 }
 
 void RoundDial::render(irr::core::rect<int> rect) {

@@ -3,6 +3,7 @@
 #include "displays/IPanel.h"
 #include "displays/gauges/DialFlag.h"
 #include "displays/gauges/DialFrame.h"
+#include "displays/gauges/SensorReading.h"
 #include "displays/instruments/DialFlagView.h"
 #include "displays/instruments/PanelTexture.h"
 #include "sensors/records/ISensorData.h"
@@ -48,7 +49,7 @@ protected:
     /// The record and the trust in it, or null; its numbers are still to be looked at.
     template <class Record>
     Record* read(ISensorData::Type type, DialEvidence& evidence) {
-        return static_cast<Record*>(readRecord(type, evidence));
+        return readDefault<Record>(*sensors_, type, evidence);
     }
 
     /// At the size of the face, turned about its centre.
@@ -73,8 +74,6 @@ protected:
     SensorManager* sensors_;
 
 private:
-    ISensorData* readRecord(ISensorData::Type type, DialEvidence& evidence);
-
     bool complete_ = true;
     PanelTexture bezel_;
     DialFlagView flagView_;

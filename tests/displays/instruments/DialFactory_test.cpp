@@ -3,6 +3,7 @@
 #include "displays/instruments/AttitudeIndicatorFactory.h"
 #include "displays/instruments/CompassFactory.h"
 #include "displays/instruments/GMeterFactory.h"
+#include "displays/instruments/OneSegmentPanelFactory.h"
 #include "displays/instruments/SpeedIndicatorFactory.h"
 #include "displays/instruments/TurnRateIndicatorFactory.h"
 #include "displays/instruments/VerticalSpeedIndicatorFactory.h"
@@ -20,6 +21,18 @@ TEST(DialFactory, names) {
     EXPECT_EQ(SpeedIndicatorFactory(nullptr).getName(), "Ground/AirSpeedIndicator");
     EXPECT_EQ(TurnRateIndicatorFactory(nullptr).getName(), "TurnCoordinator");
     EXPECT_EQ(GMeterFactory(nullptr).getName(), "G-Meter");
+    EXPECT_EQ(OneSegmentPanelFactory(nullptr).getName(), "OneSegmentPanel");
+}
+
+TEST(DialFactory, setupOfAFieldKeepsWhatStandsAndRepairsTheRest) {
+    IniFile ini;
+    ini.set("P3", "Type", "nonsense");
+    ini.set("P3", "Color.R", "20");
+    EXPECT_TRUE(OneSegmentPanelFactory(nullptr).setup(&ini, "P3"));
+    EXPECT_EQ(ini.get("P3", "Type"), "HEADING");
+    EXPECT_EQ(ini.get("P3", "Color.R"), "20");
+    EXPECT_EQ(ini.get("P3", "Color.B"), "128");
+    EXPECT_EQ(ini.get("P3", "Sensor0"), "-1");
 }
 
 TEST(DialFactory, setupWritesTheDefaultSensorIntoItsSectionAlone) {

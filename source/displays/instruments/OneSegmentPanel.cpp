@@ -1,0 +1,92 @@
+#include "displays/instruments/OneSegmentPanel.h"
+
+#include "core/Context.h"
+#include "core/geometry/Rectangles.h"
+#include "displays/PanelManager.h"
+#include "displays/drawing/Drawer2D.h"
+#include "procedures/IProcedure.h"
+
+#include <algorithm>
+#include <iostream>
+
+namespace skyvane {
+
+namespace {
+
+int rimOf(const irr::core::rect<int>& rect) {
+    return std::max(1, std::min(rect.getWidth(), rect.getHeight()) / 22);
+}
+
+irr::core::rect<int> shrunk(const irr::core::rect<int>& rect, int by) {
+    return {rect.UpperLeftCorner.X + by, rect.UpperLeftCorner.Y + by, rect.LowerRightCorner.X - by,
+            rect.LowerRightCorner.Y - by};
+}
+
+/// Not so wide that the arms lie down.
+irr::core::rect<int> crossBox(const irr::core::rect<int>& rect) {
+    constexpr float widest = 2.2f;
+    const irr::core::rect<int> inside = shrunk(rect, 2 * rimOf(rect));
+    return inside.getWidth() > widest * inside.getHeight() ? makeXic(inside, widest) : inside;
+}
+
+} // namespace
+
+OneSegmentPanel::OneSegmentPanel(Context* context, irr::video::SColor color, SegmentType type)
+    : IPanel(context), color_(color), type_(type), reader_(type),
+      background_(context->getDrawer(), context->getPath(imagePath)), flagView_(context->getDrawer()) {}
+
+irr::core::rect<int> OneSegmentPanel::upperHalf(const irr::core::rect<int>& rect) {
+    irr::core::rect<int> half = shrunk(rect, 2 * rimOf(rect));
+    half.LowerRightCorner.Y = rect.getCenter().Y;
+    return half;
+}
+
+irr::core::rect<int> OneSegmentPanel::lowerHalf(const irr::core::rect<int>& rect) {
+    irr::core::rect<int> half = shrunk(rect, 2 * rimOf(rect));
+    half.UpperLeftCorner.Y = rect.getCenter().Y;
+    return half;
+}
+
+irr::video::SColor OneSegmentPanel::labelColor(irr::video::SColor background) {
+    return irr::video::SColor(~background.color | 0xff000000u);
+}
+
+SegmentSources OneSegmentPanel::gatherSources() const {
+    SegmentSources sources;
+    sources.sensors = context_->getSensorManager();
+    sources.metric = context_->getPanelManager()->isMetric();
+    if (const IProcedure* procedure = context_->getCurrentProcedure()) {
+        sources.bearingDegrees = procedure->getBearing();
+        sources.eteSeconds = procedure->getETE();
+        sources.distanceNauticalMiles = procedure->getLength();
+    }
+    return sources;
+}
+
+void OneSegmentPanel::drawGround(const irr::core::rect<int>& rect, DialFlag flag) const {
+    if (flag == DialFlag::Good) {
+        background_.draw(rect, color_);
+        return;
+    }
+    background_.draw(rect, DialFlagView::flagColor(flag));
+    background_.draw(shrunk(rect, 1 + rimOf(rect)), color_);
+}
+
+void OneSegmentPanel::render(irr::core::rect<int> rect) {
+    FlexibleFont* font = context_->getFlexibleFont();
+    if (!font || !background_) {
+        std::cerr << "OneSegmentPanel::render error.\n";
+        return;
+    }
+    const SegmentReading reading = reader_.read(gatherSources());
+    drawGround(rect, reading.flag);
+    if (reading.flag == DialFlag::Failed)
+        flagView_.drawCross(crossBox(rect));
+    context_->getDrawer()->flush();
+    label_.draw(font, segmentLabel(type_, context_->isPortrait()), nullptr, upperHalf(rect), labelColor(color_));
+    value_.draw(font, reading.text.c_str(), segmentSample(type_), lowerHalf(rect),
+                reading.flag == DialFlag::Failed ? irr::video::SColor(0xffffffff)
+                                                 : DialFlagView::flagColor(reading.flag));
+}
+
+} // namespace skyvane
