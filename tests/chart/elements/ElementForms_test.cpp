@@ -61,6 +61,18 @@ TEST_P(EachKind, hugeCountsAndLengthsAreRefused) {
     }
 }
 
+TEST_P(EachKind, coordinatesThatAreNoNumbersAreRefused) {
+    const std::string known = bytesOf(f42_5);
+    size_t found = 0;
+    for (size_t at = golden().find(known); at != std::string::npos; at = golden().find(known, at + 1), ++found)
+        for (const char* bad : {"00 00 00 00 00 00 F0 7F", "00 00 00 00 00 00 F0 FF", "00 00 00 00 00 00 F8 7F"}) {
+            std::string record = golden();
+            record.replace(at, known.size(), bytesOf(bad));
+            EXPECT_FALSE(readRecord(record)) << bad << " at " << at;
+        }
+    EXPECT_GT(found, 0u);
+}
+
 TEST_P(EachKind, flippedBytesNeverChangeAgain) {
     const unsigned seed = 77 + static_cast<unsigned>(GetParam());
     SCOPED_TRACE("seed " + std::to_string(seed));
