@@ -50,6 +50,11 @@ public:
     /// From now on the button is drawn in this style. The style's name becomes the element's name.
     static void setButtonStyle(irr::gui::IGUIElement* button, const char* style) { button->setName(style); }
 
+    /// A plain rounded rectangle in one colour, as rows, tracks and thumbs are drawn; a plain one before loadMedia().
+    void drawRow(const Rect& rect, const Rect* clip, irr::video::SColor color) const;
+    /// Null before loadMedia().
+    Drawer2D* getDrawer() const { return drawer_; }
+
     void draw3DButtonPaneStandard(Element* element, const Rect& rect, const Rect* clip) override;
     void draw3DButtonPanePressed(Element* element, const Rect& rect, const Rect* clip) override;
     void draw3DSunkenPane(Element* element, irr::video::SColor background, bool flat, bool fillBackground,

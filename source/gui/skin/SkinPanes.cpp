@@ -75,6 +75,13 @@ const ButtonStyle* Skin::styleOf(Element* element) const {
     return found != styleIndices_.end() ? &styles_[found->second] : nullptr;
 }
 
+void Skin::drawRow(const Rect& rect, const Rect* clip, SColor color) const {
+    if (panes_.rectangle)
+        panes_.rectangle->drawTinted(rect, clip, color);
+    else
+        environment_->getVideoDriver()->draw2DRectangle(color, rect, clip);
+}
+
 void Skin::draw3DButtonPaneStandard(Element* element, const Rect& rect, const Rect* clip) {
     if (!panes_.normal)
         return IExtendableSkin::draw3DButtonPaneStandard(element, rect, clip);

@@ -1,12 +1,14 @@
 #include "gui/skin/TouchList.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace skyvane {
 namespace {
 
 /// What the engine's list needs beside its rows.
 constexpr int border = 2;
+const char* const fittedName = "fitted";
 
 irr::core::rect<irr::s32> screenOf(irr::gui::IGUIElement* element) {
     while (element->getParent())
@@ -17,6 +19,9 @@ irr::core::rect<irr::s32> screenOf(irr::gui::IGUIElement* element) {
 } // namespace
 
 void fitListToFingers(irr::gui::IGUIListBox* list, int rowHeight) {
+    if (std::strcmp(list->getName(), fittedName) == 0)
+        return;
+    list->setName(fittedName);
     irr::gui::IGUIElement* box = list->getParent();
     const irr::core::rect<irr::s32> own = box->getAbsolutePosition(), screen = screenOf(box);
     const int above = own.UpperLeftCorner.Y - screen.UpperLeftCorner.Y;
@@ -26,8 +31,6 @@ void fitListToFingers(irr::gui::IGUIListBox* list, int rowHeight) {
     const int height = std::min(wanted, std::max(rowHeight, isBelow ? below : above));
     const int top = isBelow ? own.getHeight() : -height;
     const irr::core::rect<irr::s32> fitting(0, top, own.getWidth(), top + height);
-    if (list->getRelativePosition() == fitting)
-        return;
     list->setItemHeight(rowHeight);
     list->setRelativePosition(fitting);
 }

@@ -1,4 +1,9 @@
 #include "displays/drawing/Drawer2D.h"
+#include "gui/elements/AggregatableGUIElementAdapter.h"
+#include "gui/elements/AggregateGUIElement.h"
+#include "gui/elements/BeautifulGUIImage.h"
+#include "gui/elements/BeautifulGUIText.h"
+#include "gui/elements/ScrollBar.h"
 #include "gui/font/FontFixture.h"
 #include "gui/skin/Skin.h"
 #include "support/AllocationCounter.h"
@@ -160,6 +165,43 @@ TEST_F(Gallery, AnOpenComboBoxHasRowsForFingers) {
     ASSERT_NE(nullptr, list);
     EXPECT_GE(list->getAbsolutePosition().getHeight(), 5 * buttonHeight);
     EXPECT_LE(list->getAbsolutePosition().LowerRightCorner.Y, 600) << "opens above where there is no room below";
+}
+
+TEST_F(Gallery, ListsOfOwnElements) {
+    FlexibleFont* font = fonts.load("ubuntu-regular.fnt");
+    irr::video::ITexture* sign = skin->getButtonStyle("directNormal")->image.get();
+    const irr::video::SColor white(0xffffffff);
+    AggregateGUIElement::Elements rows;
+    for (int i = 0; i < 9; ++i) {
+        AggregateGUIElement::Options line;
+        line.horizontal = true;
+        const std::wstring text = i == 3 ? L"A line that is too long for its place in this list" : L"Flight plan";
+        LayoutWish wide, square;
+        wide.recommendedSpace = 4.0f;
+        square.maintainAspectRatio = true;
+        auto* bin = button(at(0, 0), L"", "binTransparent");
+        rows.push_back(new AggregateGUIElement(
+            gui, line,
+            {new BeautifulGUIImage(gui, drawer.get(), sign, {white, white, white, white}, square),
+             new BeautifulGUIText(gui, font, text, {}, wide), new AggregatableGUIElementAdapter(gui, bin)},
+            {}));
+    }
+    AggregateGUIElement::Options options;
+    options.scrollable = true;
+    options.subElementWeight = 0.13f;
+    rows.front()->setActive(true);
+    auto* list = new AggregateGUIElement(gui, options, {}, rows, gui->getRootGUIElement(), {40, 90, 500, 680});
+    list->drop();
+    auto* bar =
+        new ScrollBar(gui, 1.0f, false, -1, nullptr, LayoutWish(), gui->getRootGUIElement(), {506, 90, 540, 680});
+    bar->drop();
+    bar->linkToScrollable(list);
+    list->setScrollShare(0.3f);
+    for (int i = 0; i < 3; ++i)
+        draw("skin-list.png");
+    const AllocationCounter counter;
+    gui->drawAll();
+    EXPECT_EQ(0u, counter.count());
 }
 
 // Texts are left out: the engine's own elements copy them at each drawing.
