@@ -15,7 +15,8 @@ class AreaLeaf final : public IArea {
 public:
     static constexpr size_t BytesPerElement = 3;
 
-    using IArea::IArea;
+    AreaLeaf(const ChartPosition& nw, const ChartPosition& se, int parentIndex)
+        : IArea(Kind::Leaf, nw, se, parentIndex) {}
 
     bool isLeaf() const override { return true; }
 
@@ -41,5 +42,13 @@ private:
     std::vector<int> elements_;
     std::vector<uint8_t> staticBytes_;
 };
+
+inline const AreaLeaf* IArea::asLeaf() const {
+    return kind_ == Kind::Leaf ? static_cast<const AreaLeaf*>(this) : nullptr;
+}
+
+inline AreaLeaf* IArea::asLeaf() {
+    return kind_ == Kind::Leaf ? static_cast<AreaLeaf*>(this) : nullptr;
+}
 
 } // namespace skyvane

@@ -8,7 +8,8 @@ namespace skyvane {
 /// the first one, the distance and the count say them all.
 class AreaNode final : public IArea {
 public:
-    using IArea::IArea;
+    AreaNode(const ChartPosition& nw, const ChartPosition& se, int parentIndex)
+        : IArea(Kind::Node, nw, se, parentIndex) {}
 
     bool isLeaf() const override { return false; }
     /// Appends a child's number. False, and nothing changes, for one out of step with those before.
@@ -23,5 +24,9 @@ private:
     int distance_ = 0;
     int count_ = 0;
 };
+
+inline const AreaNode* IArea::asNode() const {
+    return kind_ == Kind::Node ? static_cast<const AreaNode*>(this) : nullptr;
+}
 
 } // namespace skyvane

@@ -5,9 +5,6 @@
 namespace skyvane {
 namespace {
 
-/// From the root down.
-constexpr AreaSplit WorldSplits[] = {{5, 5}, {3, 3}, {3, 3}, {2, 2}, {2, 2}, {2, 2}, {2, 1}, {0, 0}};
-
 int takeNumber(IArea* area, int& counter, bool verbose, IArea** table) {
     const int number = counter++;
     table[number] = area;

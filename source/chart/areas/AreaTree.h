@@ -20,6 +20,9 @@ struct AreaSplit {
     int latitudes;
 };
 
+/// From the root down; counts of 0 end them.
+constexpr AreaSplit WorldSplits[] = {{5, 5}, {3, 3}, {3, 3}, {2, 2}, {2, 2}, {2, 2}, {2, 1}, {0, 0}};
+
 /// Owns the nodes of a tree, each kind in one piece of memory. The table that createWorldWideAreaTree fills looks into
 /// it and is of no use without it.
 struct AreaArena {

@@ -1,7 +1,5 @@
 #include "chart/areas/IArea.h"
 
-#include "chart/areas/AreaLeaf.h"
-#include "chart/areas/AreaNode.h"
 #include "chart/geodesy/Angles.h"
 
 #include <cmath>
@@ -65,18 +63,6 @@ double IArea::getSquareDegrees() const {
 void IArea::Print() const {
     std::printf("%s of %i: %g %g to %g %g\n", isLeaf() ? "Leaf" : "Node", parentIndex_, nw_.longitude, nw_.latitude,
                 se_.longitude, se_.latitude);
-}
-
-const AreaNode* IArea::asNode() const {
-    return isLeaf() ? nullptr : static_cast<const AreaNode*>(this);
-}
-
-const AreaLeaf* IArea::asLeaf() const {
-    return isLeaf() ? static_cast<const AreaLeaf*>(this) : nullptr;
-}
-
-AreaLeaf* IArea::asLeaf() {
-    return isLeaf() ? static_cast<AreaLeaf*>(this) : nullptr;
 }
 
 } // namespace skyvane

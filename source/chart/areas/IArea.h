@@ -16,9 +16,6 @@ public:
     /// The kinds of background images, named by the numbers of areas.
     enum BgType : int32_t { VFR = 0, IFR_LOW = 1, IFR_HIGH = 2 };
 
-    IArea(const ChartPosition& nw, const ChartPosition& se, int parentIndex)
-        : nw_(nw), se_(se), parentIndex_(parentIndex) {}
-
     /// With a tolerance of 0.0001 degrees: what lies on an edge lies in both neighbours. The position's longitude is
     /// 0 to 360.
     virtual bool isInside(const ChartPosition& position) const;
@@ -38,10 +35,16 @@ public:
     /// |span of longitude x span of latitude|, in square degrees.
     double getSquareDegrees() const;
 
-    /// This area as what it is, null when it is the other.
-    const AreaNode* asNode() const;
-    const AreaLeaf* asLeaf() const;
-    AreaLeaf* asLeaf();
+    /// This area as what it is, null when it is the other. AreaNode.h and AreaLeaf.h bring them.
+    inline const AreaNode* asNode() const;
+    inline const AreaLeaf* asLeaf() const;
+    inline AreaLeaf* asLeaf();
+
+protected:
+    enum class Kind : uint8_t { Node, Leaf };
+
+    IArea(Kind kind, const ChartPosition& nw, const ChartPosition& se, int parentIndex)
+        : nw_(nw), se_(se), parentIndex_(parentIndex), kind_(kind) {}
 
 private:
     bool overlapsLongitudes(double west, double east) const;
@@ -50,6 +53,7 @@ private:
     ChartPosition nw_;
     ChartPosition se_;
     int parentIndex_;
+    Kind kind_; ///< For the casts, without a virtual call: queries ask each cell of a view.
 };
 
 } // namespace skyvane

@@ -3,9 +3,17 @@
 #include <cmath>
 
 namespace skyvane {
+namespace {
+
+/// fmod by 360, spared where it changes nothing.
+double withoutTurns(double degrees) {
+    return std::fabs(degrees) < 360.0 ? degrees : std::fmod(degrees, 360.0);
+}
+
+} // namespace
 
 double Angle0to360(double degrees) {
-    double angle = std::fmod(degrees, 360.0);
+    double angle = withoutTurns(degrees);
     if (angle < 0.0)
         angle += 360.0;
     // The sum of a tiny negative number and 360 rounds to 360.
@@ -17,7 +25,7 @@ double Angle360(double degrees) {
 }
 
 double Angle180(double degrees) {
-    const double angle = std::fmod(degrees, 360.0);
+    const double angle = withoutTurns(degrees);
     if (angle > 180.0)
         return angle - 360.0;
     return angle < -180.0 ? angle + 360.0 : angle;

@@ -1,4 +1,5 @@
 #include "chart/areas/AreaFixture.h"
+#include "chart/areas/AreaGrid.h"
 #include "chart/areas/AreaUpdates.h"
 #include "chart/geodesy/Angles.h"
 #include "chart/geodesy/GreatCircle.h"
@@ -80,6 +81,39 @@ TEST_F(AreaQueries, overlapAgreesWithPlainIntervals) {
         }
     }
     EXPECT_GT(overlapping, 1000);
+}
+
+std::vector<int> leafsOfGrid(const ChartPosition& nw, const ChartPosition& se) {
+    std::vector<int> leafs;
+    AreaGridView(nw, se).forEachLeaf([&leafs](int index) { leafs.push_back(index); });
+    std::sort(leafs.begin(), leafs.end());
+    return leafs;
+}
+
+TEST_F(AreaQueries, theGridFindsTheLeavesThatOverlap) {
+    const unsigned seed = 32016;
+    std::mt19937 random(seed);
+    for (int round = 0; round < 60; ++round) {
+        const Rectangle r = randomRectangle(random, round);
+        std::vector<int> expected;
+        for (int index = 0; index < AreaCount; ++index)
+            if (getArea(index)->isLeaf() && overlaps(*getArea(index), r))
+                expected.push_back(index);
+        EXPECT_EQ(leafsOfGrid(r.nw(), r.se()), expected)
+            << "seed " << seed << ": " << r.west << " to " << r.east << ", " << r.south << " to " << r.north;
+    }
+}
+
+TEST_F(AreaQueries, theGridStandsItsEdges) {
+    EXPECT_EQ(getLeafIndex(0, 0), 7);
+    EXPECT_EQ(getLeafIndex(AreaGridColumns - 1, AreaGridRows - 1), LastAreaIndex);
+    EXPECT_EQ(leafsOfGrid(ChartPosition(-180, 90), ChartPosition(180, -90)).size(), size_t(AreaLeafCount));
+    EXPECT_EQ(leafsOfGrid(ChartPosition(0, 90), ChartPosition(360, -90)).size(), size_t(AreaLeafCount));
+    EXPECT_EQ(leafsOfGrid(ChartPosition(0.0, 10.1), ChartPosition(0.0, 10.1)).size(), 1u);
+    EXPECT_EQ(leafsOfGrid(ChartPosition(360.0, -90.0), ChartPosition(0.0, -90.0)).size(), 1u);
+    EXPECT_EQ(leafsOfGrid(ChartPosition(359.9, 90.2), ChartPosition(0.2, 89.9)).size(), 2u) << "folded at the pole";
+    EXPECT_TRUE(leafsOfGrid(ChartPosition(std::nan(""), 1.0), ChartPosition(2.0, 0.0)).empty());
+    EXPECT_TRUE(leafsOfGrid(ChartPosition(1.0, 1.0), ChartPosition(2.0, HUGE_VAL)).empty());
 }
 
 TEST_F(AreaQueries, touchingIsNotOverlapping) {
