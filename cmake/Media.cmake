@@ -1,8 +1,11 @@
 # The media folder that the program reads: drawings rendered to textures, everything else linked as it is.
 #
 # skyvane_media(<target>) fills ${CMAKE_BINARY_DIR}/media: each media/drawings/<name>.svg becomes <name>.png at the
-# size written in the drawing, and every other entry of media/ becomes a link.
+# size written in the drawing, stored without compression for a quick start; every other entry of media/ becomes a link.
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
+find_package(PNG REQUIRED)
+add_executable(storepng ${CMAKE_SOURCE_DIR}/tools/media/storepng.cpp)
+target_link_libraries(storepng PRIVATE PNG::PNG)
 
 function(skyvane_media target)
   set(out ${CMAKE_BINARY_DIR}/media)
@@ -12,8 +15,10 @@ function(skyvane_media target)
   foreach(drawing IN LISTS drawings)
     get_filename_component(name ${drawing} NAME_WE)
     add_custom_command(OUTPUT ${out}/${name}.png
-                       COMMAND ${RSVG_CONVERT} --format png --output ${out}/${name}.png ${drawing}
-                       DEPENDS ${drawing} VERBATIM)
+                       COMMAND ${RSVG_CONVERT} --format png --output ${out}/${name}.packed ${drawing}
+                       COMMAND storepng ${out}/${name}.packed ${out}/${name}.png
+                       COMMAND ${CMAKE_COMMAND} -E rm ${out}/${name}.packed
+                       DEPENDS ${drawing} storepng VERBATIM)
     list(APPEND textures ${out}/${name}.png)
   endforeach()
   file(GLOB entries RELATIVE ${CMAKE_SOURCE_DIR}/media CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/media/*)

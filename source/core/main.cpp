@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <irrlicht.h>
+#include <malloc.h>
 #include <memory>
 
 using namespace skyvane;
@@ -55,6 +56,14 @@ void closeWindow(irr::IrrlichtDevice& device) {
         Delay(1);
 }
 
+/// Pictures of a megabyte come and go while the program loads: kept in the heap, they don't have to be mapped, cleared
+/// and unmapped by the kernel each time. Costs a heap that stays that much larger.
+void keepLargeBlocksInHeap() {
+    constexpr int bytes = 64 << 20;
+    mallopt(M_MMAP_THRESHOLD, bytes);
+    mallopt(M_TRIM_THRESHOLD, bytes);
+}
+
 /// Why no window came, in words for the user.
 int reportNoWindow() {
     std::fprintf(stderr, "Skyvane: no OpenGL window could be opened. Check that the graphics driver offers OpenGL 2 "
@@ -83,6 +92,7 @@ int runProgram(const CommandLine& line, const char* argv0) {
 } // namespace
 
 int main(int argc, char** argv) {
+    keepLargeBlocksInHeap();
     const CommandLine line = parseCommandLine(argc, argv);
     if (line.kind == CommandLine::Bad)
         std::fprintf(stderr, "Skyvane: %s\n", line.trouble.c_str());

@@ -12,7 +12,7 @@ namespace {
 
 // The leading number of the text, after blanks and one sign; false when there is none or it doesn't fit.
 template <class T>
-bool readNumber(const std::string& text, T& value) {
+bool readNumber(std::string_view text, T& value) {
     const char* end = text.data() + text.size();
     const char* begin = std::find_if(text.data(), end, [](char c) { return !c || !std::strchr(" \t\n\v\f\r", c); });
     if (begin != end && *begin == '+') {
@@ -42,22 +42,22 @@ constexpr size_t longestDecimal = 400;
 
 } // namespace
 
-int toInt(const std::string& text, int fallback) {
+int toInt(std::string_view text, int fallback) {
     int value = 0;
     return readNumber(text, value) ? value : fallback;
 }
 
-unsigned toUnsigned(const std::string& text, unsigned fallback) {
+unsigned toUnsigned(std::string_view text, unsigned fallback) {
     unsigned value = 0;
     return readNumber(text, value) ? value : fallback;
 }
 
-double toDouble(const std::string& text, double fallback) {
+double toDouble(std::string_view text, double fallback) {
     double value = 0.0;
     return readNumber(text, value) && std::isfinite(value) ? value : fallback;
 }
 
-bool toBool(const std::string& text, bool fallback) {
+bool toBool(std::string_view text, bool fallback) {
     return toInt(text, fallback ? 1 : 0) != 0;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace skyvane {
 
@@ -8,11 +9,11 @@ namespace skyvane {
 
 /// The leading number of a text after blanks, as stream extraction reads it; `fallback` (0) when there is none, when it
 /// doesn't fit the type, or when it isn't finite.
-int toInt(const std::string& text, int fallback = 0);
-unsigned toUnsigned(const std::string& text, unsigned fallback = 0);
-double toDouble(const std::string& text, double fallback = 0.0);
+int toInt(std::string_view text, int fallback = 0);
+unsigned toUnsigned(std::string_view text, unsigned fallback = 0);
+double toDouble(std::string_view text, double fallback = 0.0);
 /// Non-zero integers are true.
-bool toBool(const std::string& text, bool fallback = false);
+bool toBool(std::string_view text, bool fallback = false);
 
 /// The shortest decimal text that reads back as the same number.
 std::string toText(double value);

@@ -54,7 +54,8 @@ protected:
 
     /// At the size of the face, turned about its centre.
     void drawFace(const PanelTexture& image, const DialFrame& frame, double rotationDegrees) const;
-    /// The same for an image that holds only a part of the face, given as fractions of its edge: saves filling the rest.
+    /// The same for an image that holds only a part of the face, given as fractions of its edge: saves filling the
+    /// rest.
     void drawFacePart(const PanelTexture& image, const irr::core::rect<float>& part, const DialFrame& frame,
                       double rotationDegrees) const;
     /// A hand that points up: its image is the middle eighth of the face's width.

@@ -35,15 +35,15 @@ public:
     FntText font;
 
     void read(const FntLine& line) {
-        if (line.tag == "char")
+        if (line.tag() == "char")
             readCharacter(line);
-        else if (line.tag == "kerning")
+        else if (line.tag() == "kerning")
             readKerning(line);
-        else if (line.tag == "page")
+        else if (line.tag() == "page")
             readPage(line);
-        else if (line.tag == "common")
+        else if (line.tag() == "common")
             readCommon(line);
-        else if (line.tag == "info")
+        else if (line.tag() == "info")
             font.definition.size = line.number("size", 0);
     }
 
@@ -77,9 +77,9 @@ private:
     }
 
     void readPage(const FntLine& line) {
-        const auto file = line.values.find("file");
-        if (line.number("id", absent) == 0 && file != line.values.end())
-            font.pageFile = bareFileName(file->second);
+        const std::string_view* file = line.find("file");
+        if (line.number("id", absent) == 0 && file)
+            font.pageFile = bareFileName(std::string(*file));
     }
 
     void readCharacter(const FntLine& line) {
@@ -126,10 +126,12 @@ private:
 
 FntText parseFntText(const char* bytes, size_t count) {
     FntReader reader;
+    FntLine record;
     const char* const end = bytes + count;
     for (const char* line = bytes; line != end && !reader.isRefused();) {
         const char* const lineEnd = std::find(line, end, '\n');
-        reader.read(FntLine::parse(std::string(line, lineEnd)));
+        record.parse(std::string_view(line, static_cast<size_t>(lineEnd - line)));
+        reader.read(record);
         line = lineEnd == end ? end : lineEnd + 1;
     }
     reader.finish();
