@@ -27,28 +27,36 @@ bool read(const char* path, Picture& picture) {
     return png_image_finish_read(&picture.header, nullptr, picture.pixels.data(), 0, nullptr) != 0;
 }
 
-bool write(const char* path, Picture& picture) {
-    const File file(std::fopen(path, "wb"));
-    if (!file)
-        return false;
-    png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
-    png_infop info = png ? png_create_info_struct(png) : nullptr;
+std::vector<png_bytep> rowsOf(Picture& picture) {
     std::vector<png_bytep> rows(picture.header.height);
     for (png_uint_32 y = 0; y < picture.header.height; ++y)
         rows[y] = picture.pixels.data() + static_cast<size_t>(y) * picture.header.width * 4;
+    return rows;
+}
+
+/// Nothing with a destructor lives here: the library reports errors by a long jump.
+bool writeRows(FILE* file, const Picture& picture, png_bytep* rows) {
+    png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+    png_infop info = png ? png_create_info_struct(png) : nullptr;
     if (!info || setjmp(png_jmpbuf(png))) {
         png_destroy_write_struct(&png, &info);
         return false;
     }
-    png_init_io(png, file.get());
+    png_init_io(png, file);
     png_set_compression_level(png, 0);
     png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
     png_set_IHDR(png, info, picture.header.width, picture.header.height, 8, PNG_COLOR_TYPE_RGBA, PNG_INTERLACE_NONE,
                  PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
-    png_set_rows(png, info, rows.data());
+    png_set_rows(png, info, rows);
     png_write_png(png, info, PNG_TRANSFORM_IDENTITY, nullptr);
     png_destroy_write_struct(&png, &info);
     return true;
+}
+
+bool write(const char* path, Picture& picture) {
+    const File file(std::fopen(path, "wb"));
+    std::vector<png_bytep> rows = rowsOf(picture);
+    return file && writeRows(file.get(), picture, rows.data());
 }
 
 } // namespace

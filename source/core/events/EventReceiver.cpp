@@ -5,6 +5,7 @@
 #include "core/time/Time.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace skyvane {
 namespace {
@@ -86,12 +87,15 @@ bool EventReceiver::isKeyDown(irr::EKEY_CODE key) const {
 
 /// True when the event is consumed.
 bool EventReceiver::onKey(const irr::SEvent::SKeyInput& key) {
-    const unsigned index = static_cast<unsigned>(key.Key);
+    // Posted events can hold any number there, more than the enumeration's type may be read as.
+    unsigned index = 0;
+    static_assert(sizeof index == sizeof key.Key, "the code is read as its bytes");
+    std::memcpy(&index, &key.Key, sizeof index);
     if (index < keys_.size())
         keys_[index] = key.PressedDown;
     if (key.PressedDown)
         return false;
-    if (key.Key == irr::KEY_INSERT)
+    if (index == irr::KEY_INSERT)
         host_->OnScreenshotKey();
     return index == BackKey && onBackKey();
 }
