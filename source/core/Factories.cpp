@@ -3,12 +3,15 @@
 #include "displays/PanelManager.h"
 #include "displays/instruments/AltimeterFactory.h"
 #include "displays/instruments/AttitudeIndicatorFactory.h"
+#include "displays/instruments/BatteryPanelFactory.h"
 #include "displays/instruments/CompassFactory.h"
 #include "displays/instruments/GMeterFactory.h"
 #include "displays/instruments/OneSegmentPanelFactory.h"
+#include "displays/instruments/SlipIndicatorFactory.h"
 #include "displays/instruments/SpeedIndicatorFactory.h"
 #include "displays/instruments/TurnRateIndicatorFactory.h"
 #include "displays/instruments/VerticalSpeedIndicatorFactory.h"
+#include "displays/instruments/WarningLampFactory.h"
 #include "sensors/SensorManager.h"
 #include "sensors/StandardDataFactories.h"
 #include "sensors/simulators/FlightGearSensorFactory.h"
@@ -37,12 +40,12 @@ void registerPanelFactories(Context& context, PanelManager& panels) {
     panels.addPanelFactory(std::make_unique<AltimeterFactory>(&context));
     panels.addPanelFactory(std::make_unique<CompassFactory>(&context));
     panels.addPanelFactory(std::make_unique<OneSegmentPanelFactory>(&context));
-    panels.addPanelFactory(nullptr); // WarningLampFactory
+    panels.addPanelFactory(std::make_unique<WarningLampFactory>(&context));
     panels.addPanelFactory(std::make_unique<VerticalSpeedIndicatorFactory>(&context));
     panels.addPanelFactory(std::make_unique<SpeedIndicatorFactory>(&context));
-    panels.addPanelFactory(nullptr); // SlipIndicatorFactory
+    panels.addPanelFactory(std::make_unique<SlipIndicatorFactory>(&context));
     panels.addPanelFactory(std::make_unique<GMeterFactory>(&context));
-    panels.addPanelFactory(nullptr); // BatteryPanelFactory
+    panels.addPanelFactory(std::make_unique<BatteryPanelFactory>(&context));
     panels.addPanelFactory(nullptr); // CheckListPanelFactory
     panels.addPanelFactory(nullptr); // GliderPanelFactory
     panels.addPanelFactory(nullptr); // DetailsPanelFactory

@@ -501,7 +501,8 @@ def loading():
 
 # Parts of a drawing's edge, left, top, right, bottom: pictures that are empty elsewhere hold only this part.
 WHOLE, HAND, BUG, TOP = (0, 0, 1, 1), (0.4375, 0, 0.5625, 1), (0.4375, 0, 0.5625, 0.0625), (0.1875, 0.0625, 0.8125, 0.5625)
-PARTS = {"alt_100": HAND, "alt_1000": HAND, "alt_10000": HAND, "comp_bug": BUG, "att_top": TOP}
+PLANE, BALL = (0.0625, 0.34375, 0.9375, 0.65625), (0.4375, 0.703125, 0.5625, 0.828125)
+PARTS = {"turn_plane": PLANE, "turn_ball": BALL, "alt_100": HAND, "alt_1000": HAND, "alt_10000": HAND, "comp_bug": BUG, "att_top": TOP}
 
 DRAWINGS = {
     "speed_bg": (512, 1000, disc), "alt_bg": (512, 1000, altimeter_face), "vsi_bg": (512, 1000, feet_face), "vsi_bg_m": (512, 1000, metre_face),

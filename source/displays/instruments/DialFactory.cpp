@@ -19,7 +19,12 @@ void DialFactory::renderPreview(irr::core::rect<int> rect) {
         preview_ = PanelTexture(drawer->getDevice()->getVideoDriver(), context_->getPath(previewPath_));
         previewLoaded_ = true;
     }
-    drawer->Draw(preview_.get(), makeQuadratic(rect));
+    drawer->Draw(preview_.get(), previewRect(rect));
+}
+
+irr::core::rect<int> DialFactory::previewRect(const irr::core::rect<int>& rect) const {
+    irr::core::rect<int> square = rect;
+    return makeQuadratic(square);
 }
 
 } // namespace skyvane

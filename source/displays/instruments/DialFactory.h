@@ -17,7 +17,7 @@ public:
     /// Has nothing to ask; writes that the panel takes the default sensor.
     bool setup(IniFile* ini, std::string section) override;
     std::string getName() override { return name_; }
-    /// The preview image, or nothing without one, in the largest square.
+    /// The preview image, or nothing without one.
     void renderPreview(irr::core::rect<int> rect) override;
 
 protected:
@@ -32,6 +32,8 @@ protected:
     }
 
     Context* context() const { return context_; }
+    /// Where the preview image goes: the largest square.
+    virtual irr::core::rect<int> previewRect(const irr::core::rect<int>& rect) const;
 
 private:
     Context* context_;

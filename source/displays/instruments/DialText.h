@@ -17,14 +17,21 @@ public:
     void draw(FlexibleFont* font, const wchar_t* text, const wchar_t* sample, const irr::core::rect<int>& box,
               irr::video::SColor color);
 
+    /// The two steps of it, for who must know the size before: lays the text out for a room and gives its size there;
+    /// then draws it in the middle of a box.
+    irr::core::dimension2d<int> set(FlexibleFont* font, const wchar_t* text, const wchar_t* sample,
+                                    const irr::core::dimension2d<int>& room, irr::video::SColor color);
+    void draw(const irr::core::rect<int>& box) const;
+
 private:
-    float fittingScale() const;
+    float calcScale() const;
 
     CachedText text_;
     FlexibleFont* font_ = nullptr;
     const wchar_t* sample_ = nullptr;
-    irr::core::dimension2d<int> boxSize_{0, 0};
+    irr::core::dimension2d<int> room_{0, 0};
     float sampleScale_ = 1.0f;
+    float scale_ = 1.0f;
 };
 
 } // namespace skyvane

@@ -4,6 +4,7 @@
 #include "core/geometry/Rectangles.h"
 #include "displays/PanelManager.h"
 #include "displays/drawing/Drawer2D.h"
+#include "displays/gauges/SegmentFormat.h"
 #include "procedures/IProcedure.h"
 
 #include <algorithm>
@@ -22,6 +23,14 @@ irr::core::rect<int> shrunk(const irr::core::rect<int>& rect, int by) {
             rect.LowerRightCorner.Y - by};
 }
 
+/// What lies within the rim, with a margin to both sides.
+irr::core::rect<int> textBox(const irr::core::rect<int>& rect) {
+    irr::core::rect<int> box = shrunk(rect, 2 * rimOf(rect));
+    box.UpperLeftCorner.X += rimOf(rect);
+    box.LowerRightCorner.X -= rimOf(rect);
+    return box;
+}
+
 /// Not so wide that the arms lie down.
 irr::core::rect<int> crossBox(const irr::core::rect<int>& rect) {
     constexpr float widest = 2.2f;
@@ -36,13 +45,13 @@ OneSegmentPanel::OneSegmentPanel(Context* context, irr::video::SColor color, Seg
       background_(context->getDrawer(), context->getPath(imagePath)), flagView_(context->getDrawer()) {}
 
 irr::core::rect<int> OneSegmentPanel::upperHalf(const irr::core::rect<int>& rect) {
-    irr::core::rect<int> half = shrunk(rect, 2 * rimOf(rect));
+    irr::core::rect<int> half = textBox(rect);
     half.LowerRightCorner.Y = rect.getCenter().Y;
     return half;
 }
 
 irr::core::rect<int> OneSegmentPanel::lowerHalf(const irr::core::rect<int>& rect) {
-    irr::core::rect<int> half = shrunk(rect, 2 * rimOf(rect));
+    irr::core::rect<int> half = textBox(rect);
     half.UpperLeftCorner.Y = rect.getCenter().Y;
     return half;
 }
@@ -84,7 +93,8 @@ void OneSegmentPanel::render(irr::core::rect<int> rect) {
         flagView_.drawCross(crossBox(rect));
     context_->getDrawer()->flush();
     label_.draw(font, segmentLabel(type_, context_->isPortrait()), nullptr, upperHalf(rect), labelColor(color_));
-    value_.draw(font, reading.text.c_str(), segmentSample(type_), lowerHalf(rect),
+    const bool known = !(reading.text == ShortText(notAvailable));
+    value_.draw(font, reading.text.c_str(), known ? segmentSample(type_) : nullptr, lowerHalf(rect),
                 reading.flag == DialFlag::Failed ? irr::video::SColor(0xffffffff)
                                                  : DialFlagView::flagColor(reading.flag));
 }

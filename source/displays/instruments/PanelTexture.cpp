@@ -2,6 +2,9 @@
 
 #include "core/engine/MipmappedTexture.h"
 
+#include "core/Context.h"
+#include "core/log/Logger.h"
+
 #include <utility>
 
 namespace skyvane {
@@ -31,6 +34,13 @@ void PanelTexture::release() {
     if (texture_ && texture_->getReferenceCount() == driversAndOurs)
         driver_->removeTexture(texture_.get());
     texture_.reset();
+}
+
+PanelTexture loadPanelImage(Context* context, const char* path) {
+    PanelTexture image(context->getIrrlichtDevice()->getVideoDriver(), context->getPath(path));
+    if (!image)
+        logText("A panel lacks its image " + std::string(path) + ".\n");
+    return image;
 }
 
 } // namespace skyvane

@@ -7,6 +7,8 @@
 
 namespace skyvane {
 
+class Context;
+
 /// An image of a panel. Panels that name the same file share one texture; the last of them takes it from the driver.
 class PanelTexture {
 public:
@@ -28,5 +30,8 @@ private:
     EngineRef<irr::video::IVideoDriver> driver_;
     EngineRef<irr::video::ITexture> texture_;
 };
+
+/// An image below the program's home, such as media/lamp.png. A missing one is logged.
+PanelTexture loadPanelImage(Context* context, const char* path);
 
 } // namespace skyvane

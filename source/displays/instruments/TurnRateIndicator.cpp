@@ -14,8 +14,8 @@ namespace skyvane {
 namespace {
 
 // Where things lie in the drawings, as fractions of their edge.
-const irr::core::rect<float> planePart(0.0625f, 0.34f, 0.9375f, 0.66f);
-const irr::core::rect<float> ballPart(0.4375f, 0.7f, 0.5625f, 0.825f);
+const irr::core::rect<float> planePart(0.0625f, 0.34375f, 0.9375f, 0.65625f);
+const irr::core::rect<float> ballPart(0.4375f, 0.703125f, 0.5625f, 0.828125f);
 const irr::core::rect<float> tubePart(0.108f, 0.7f, 0.892f, 0.824f);
 
 } // namespace

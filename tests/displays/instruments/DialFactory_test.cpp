@@ -1,12 +1,15 @@
 #include "core/ini/IniFile.h"
 #include "displays/instruments/AltimeterFactory.h"
 #include "displays/instruments/AttitudeIndicatorFactory.h"
+#include "displays/instruments/BatteryPanelFactory.h"
 #include "displays/instruments/CompassFactory.h"
 #include "displays/instruments/GMeterFactory.h"
 #include "displays/instruments/OneSegmentPanelFactory.h"
+#include "displays/instruments/SlipIndicatorFactory.h"
 #include "displays/instruments/SpeedIndicatorFactory.h"
 #include "displays/instruments/TurnRateIndicatorFactory.h"
 #include "displays/instruments/VerticalSpeedIndicatorFactory.h"
+#include "displays/instruments/WarningLampFactory.h"
 
 #include <gtest/gtest.h>
 
@@ -22,6 +25,18 @@ TEST(DialFactory, names) {
     EXPECT_EQ(TurnRateIndicatorFactory(nullptr).getName(), "TurnCoordinator");
     EXPECT_EQ(GMeterFactory(nullptr).getName(), "G-Meter");
     EXPECT_EQ(OneSegmentPanelFactory(nullptr).getName(), "OneSegmentPanel");
+    EXPECT_EQ(WarningLampFactory(nullptr).getName(), "WarningLamp");
+    EXPECT_EQ(BatteryPanelFactory(nullptr).getName(), "BatteryPanel");
+    EXPECT_EQ(SlipIndicatorFactory(nullptr).getName(), "Slip/Skid Indicator");
+}
+
+TEST(DialFactory, setupOfAStripWritesItsStandardKeys) {
+    IniFile ini;
+    EXPECT_TRUE(SlipIndicatorFactory(nullptr).setup(&ini, "P3"));
+    EXPECT_EQ(ini.get("P3", "drawText"), "1");
+    EXPECT_EQ(ini.get("P3", "pfdColor.R"), "128");
+    EXPECT_EQ(ini.get("P3", "pfdColor.A"), "64");
+    EXPECT_EQ(ini.get("P3", "Color.B"), "255");
 }
 
 TEST(DialFactory, setupOfAFieldKeepsWhatStandsAndRepairsTheRest) {
