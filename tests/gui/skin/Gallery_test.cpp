@@ -3,6 +3,7 @@
 #include "gui/elements/AggregateGUIElement.h"
 #include "gui/elements/BeautifulGUIImage.h"
 #include "gui/elements/BeautifulGUIText.h"
+#include "gui/elements/ColorWindow.h"
 #include "gui/elements/ScrollBar.h"
 #include "gui/font/FontFixture.h"
 #include "gui/skin/Skin.h"
@@ -202,6 +203,24 @@ TEST_F(Gallery, ListsOfOwnElements) {
     const AllocationCounter counter;
     gui->drawAll();
     EXPECT_EQ(0u, counter.count());
+}
+
+TEST_F(Gallery, AColorIsMixedWithSliders) {
+    ColorWindow mixer(gui, irr::video::SColor(160, 30, 200, 90), true);
+    draw("skin-color.png");
+    irr::SEvent event{};
+    event.EventType = irr::EET_GUI_EVENT;
+    event.GUIEvent.EventType = irr::gui::EGET_SCROLL_BAR_CHANGED;
+    std::vector<irr::gui::IGUIScrollBar*> sliders;
+    for (IGUIElement* child : mixer.getWindow()->getChildren())
+        if (child->getType() == irr::gui::EGUIET_SCROLL_BAR)
+            sliders.push_back(static_cast<irr::gui::IGUIScrollBar*>(child));
+    ASSERT_EQ(4u, sliders.size());
+    sliders[0]->setPos(255);
+    sliders[3]->setPos(7);
+    event.GUIEvent.Caller = sliders[0];
+    EXPECT_EQ(ColorWindow::Answer::None, mixer.processEvent(event));
+    EXPECT_EQ(irr::video::SColor(7, 255, 200, 90), mixer.getColor());
 }
 
 // Texts are left out: the engine's own elements copy them at each drawing.
