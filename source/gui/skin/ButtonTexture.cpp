@@ -43,12 +43,13 @@ ButtonTexture::ButtonTexture(irr::video::IVideoDriver* driver, Drawer2D* drawer,
       texture_(EngineRef<irr::video::ITexture>::share(loadWithoutMipMaps(driver, file))), cornerOfShort_(cornerOfShort),
       cornerOfScreen_(cornerOfScreen) {}
 
-void ButtonTexture::drawButton(const rect<int>& area, const rect<int>* clip, const SColor* tint, bool noInset) const {
-    if (!texture_)
-        return;
+int ButtonTexture::cornerOf(const rect<int>& area) const {
     const irr::core::dimension2d<irr::u32> screen = driver_->getCurrentRenderTargetSize();
-    const int corner =
-        cornerSize(area, static_cast<int>(std::min(screen.Width, screen.Height)), cornerOfShort_, cornerOfScreen_);
+    return cornerSize(area, static_cast<int>(std::min(screen.Width, screen.Height)), cornerOfShort_, cornerOfScreen_);
+}
+
+void ButtonTexture::drawButton(const rect<int>& area, const rect<int>* clip, const SColor* tint, bool noInset) const {
+    const int corner = cornerOf(area);
     rect<int> seen = area;
     if (!noInset) {
         seen.UpperLeftCorner += irr::core::position2di(corner, corner);
@@ -62,28 +63,38 @@ void ButtonTexture::drawTinted(const rect<int>& area, const rect<int>* clip, SCo
     drawButton(area, clip, four);
 }
 
-void ButtonTexture::drawRectWithCorner(const rect<int>& area, const rect<int>* clip, int corner,
-                                       const SColor* tint) const {
+void ButtonTexture::drawFrame(const rect<int>& area, const rect<int>* clip, SColor tint) const {
+    const SColor four[4] = {tint, tint, tint, tint};
+    drawRectWithCorner(area, clip, cornerOf(area), four, false);
+}
+
+void ButtonTexture::drawRectWithCorner(const rect<int>& area, const rect<int>* clip, int corner, const SColor* tint,
+                                       bool isFilled) const {
+    if (!texture_)
+        return;
     const NineParts parts = nineParts(area, corner);
-    for (std::size_t row = 0; row < 3; ++row) {
-        for (std::size_t column = 0; column < 3; ++column) {
-            const rect<int> part(parts.x[column], parts.y[row], parts.x[column + 1], parts.y[row + 1]);
-            Drawer2D::PointF coordinates[4];
-            SColor colors[4];
-            for (std::size_t i = 0; i < 4; ++i) {
-                const std::size_t x = column + i % 2, y = row + i / 2;
-                coordinates[i].set(textureCuts[x], textureCuts[y]);
-                colors[i] = colorAt(tint, shareOf(parts.x[x], parts.x[0], parts.x[3]),
-                                    shareOf(parts.y[y], parts.y[0], parts.y[3]));
-            }
-            drawer_->setTextureCoordinates(coordinates);
-            drawer_->setColors(colors);
-            drawer_->Draw(texture_.get(), part, clip);
-        }
-    }
+    for (std::size_t row = 0; row < 3; ++row)
+        for (std::size_t column = 0; column < 3; ++column)
+            if (isFilled || row != 1 || column != 1)
+                drawPart(parts, column, row, clip, tint);
     drawer_->setTextureCoordinates(nullptr);
     drawer_->setColor(SColor(0xffffffff));
     drawer_->flush();
+}
+
+void ButtonTexture::drawPart(const NineParts& parts, std::size_t column, std::size_t row, const rect<int>* clip,
+                             const SColor* tint) const {
+    Drawer2D::PointF coordinates[4];
+    SColor colors[4];
+    for (std::size_t i = 0; i < 4; ++i) {
+        const std::size_t x = column + i % 2, y = row + i / 2;
+        coordinates[i].set(textureCuts[x], textureCuts[y]);
+        colors[i] =
+            colorAt(tint, shareOf(parts.x[x], parts.x[0], parts.x[3]), shareOf(parts.y[y], parts.y[0], parts.y[3]));
+    }
+    drawer_->setTextureCoordinates(coordinates);
+    drawer_->setColors(colors);
+    drawer_->Draw(texture_.get(), {parts.x[column], parts.y[row], parts.x[column + 1], parts.y[row + 1]}, clip);
 }
 
 } // namespace skyvane

@@ -8,6 +8,7 @@
 namespace skyvane {
 
 class Drawer2D;
+struct NineParts;
 
 /// One image with corners: a pane or a button of any size. The corners keep their shape, what lies between stretches.
 ///
@@ -26,11 +27,17 @@ public:
     /// In a single colour.
     void drawTinted(const irr::core::rect<int>& rect, const irr::core::rect<int>* clip, irr::video::SColor tint) const;
 
+    /// The edges and corners alone: what lies between is hidden by something else.
+    void drawFrame(const irr::core::rect<int>& rect, const irr::core::rect<int>* clip, irr::video::SColor tint) const;
+
     bool isLoaded() const { return static_cast<bool>(texture_); }
 
 private:
+    int cornerOf(const irr::core::rect<int>& rect) const;
     void drawRectWithCorner(const irr::core::rect<int>& rect, const irr::core::rect<int>* clip, int corner,
-                            const irr::video::SColor* tint) const;
+                            const irr::video::SColor* tint, bool isFilled = true) const;
+    void drawPart(const NineParts& parts, std::size_t column, std::size_t row, const irr::core::rect<int>* clip,
+                  const irr::video::SColor* tint) const;
 
     irr::video::IVideoDriver* driver_;
     Drawer2D* drawer_;

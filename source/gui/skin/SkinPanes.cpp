@@ -138,7 +138,7 @@ void Skin::drawButtonFace(const ButtonStyle* style, bool enabled, const Rect& re
         return panes_.rectangle->drawButton(rect, clip, tint.data());
     (pressed ? panes_.tintablePressed : panes_.tintable)->drawButton(rect, clip, tint.data());
     if (pressed)
-        panes_.flatRim->drawTinted(rect, clip, paneTint());
+        panes_.flatRim->drawFrame(rect, clip, paneTint());
 }
 
 void Skin::drawLamp(const ButtonStyle& style, bool enabled, const Rect& rect, const Rect* clip, bool pressed) const {
@@ -177,7 +177,7 @@ void Skin::draw3DSunkenPane(Element* element, SColor background, bool flat, bool
         panes_.sunkenFill->drawTinted(rect, clip, background);
     const bool isFocused = element && environment_->hasFocus(element);
     const SColor rim = paneTint(getColor(isFocused ? "focus" : "rim"));
-    (flat ? panes_.flatRim : panes_.sunkenRim)->drawTinted(rect, clip, enabled ? rim : faded(rim, disabledShare));
+    (flat ? panes_.flatRim : panes_.sunkenRim)->drawFrame(rect, clip, enabled ? rim : faded(rim, disabledShare));
 }
 
 Skin::Rect Skin::draw3DWindowBackground(Element* element, bool drawTitleBar, SColor titleBarColor, const Rect& rect,
@@ -187,7 +187,7 @@ Skin::Rect Skin::draw3DWindowBackground(Element* element, bool drawTitleBar, SCo
                                                        checkClientArea);
     Rect around = rect;
     inset(around, -getSize(irr::gui::EGDS_BUTTON_HEIGHT) / 3);
-    panes_.shadow->drawTinted(around, nullptr, paneTint());
+    panes_.shadow->drawFrame(around, nullptr, paneTint());
     panes_.window->drawTinted(rect, clip, paneTint());
     Rect title = rect;
     inset(title, 4);
@@ -227,7 +227,7 @@ void Skin::draw3DTabBody(Element* element, bool border, bool background, const R
     if (background)
         panes_.sunkenFill->drawTinted(body, clip, getColor(irr::gui::EGDC_WINDOW));
     if (border)
-        panes_.flatRim->drawTinted(body, clip, paneTint(getColor("rim")));
+        panes_.flatRim->drawFrame(body, clip, paneTint(getColor("rim")));
 }
 
 void Skin::drawIcon(Element* element, irr::gui::EGUI_DEFAULT_ICON icon, const irr::core::position2di position,
