@@ -302,7 +302,7 @@ def slip_ground():
 
 
 def slip_top():
-    return shape([(-66, -42), (66, -42), (66, 42), (-66, 42)], WHITE, width=8)
+    return shape([(-46, -42), (46, -42), (46, 42), (-46, 42)], WHITE, width=8)
 
 
 def slip_bottom():
@@ -521,7 +521,7 @@ DRAWINGS = {
     "speed_preview": (256, 1000, speed_preview),
     "turn_bg": (512, 1000, turn_face), "turn_ball": (512, 1000, turn_ball), "turn_plane": (512, 1000, turn_plane),
     "acc": (512, 1000, load_face),
-    "slip_bg": (1024, 747, slip_ground), "slip_top": ((192, 128), (150, 100), slip_top),
+    "slip_bg": (1024, 747, slip_ground), "slip_top": ((144, 128), (112.5, 100), slip_top),
     "slip_bot": ((128, 128), 100, slip_bottom),
     "onesegment": (128, 1000, segment),
     "lamp_bg": (256, 1000, lamp_ground), "lamp": (256, 1000, lamp), "lamp_alt": (256, 1000, lamp_altitude),

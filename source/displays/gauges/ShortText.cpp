@@ -2,6 +2,8 @@
 
 #include "core/text/Numbers.h"
 
+#include <cmath>
+
 namespace skyvane {
 
 ShortText formatTurnRate(double degreesPerSecond) {
@@ -9,7 +11,8 @@ ShortText formatTurnRate(double degreesPerSecond) {
 }
 
 ShortText formatLoad(double load) {
-    return ShortText().append(std::string_view(toFixedText(load, 1)));
+    // Rounded first: the text of a double with all its digits would be long enough to allocate.
+    return ShortText().append(std::string_view(toFixedText(std::round(load * 10.0) / 10.0, 1)));
 }
 
 } // namespace skyvane

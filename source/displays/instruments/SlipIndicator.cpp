@@ -82,9 +82,9 @@ void SlipIndicator::drawStrip(int width, int height) {
         drawer_->Draw(upper_.get(), {roundToInt(width * (0.5 + calcSlipOffset(sideways_))), 0},
                       markerSize(upper_, marker), 0.0f, {0.5f, 0.0f});
     else
-        flagView_.drawCross({width / 4, 0, width - width / 4, height / 2});
+        flagView_.drawCross({(width - height) / 2, 0, (width + height) / 2, height / 2});
     if (!isValueShown(turnFlag_)) {
-        flagView_.drawCross({width / 4, height / 2, width - width / 4, height});
+        flagView_.drawCross({(width - height) / 2, height / 2, (width + height) / 2, height});
         return;
     }
     drawer_->setColor(SColor(0xff000000));
