@@ -34,8 +34,6 @@ AreaGridView::AreaGridView(const ChartPosition& nw, const ChartPosition& se) {
         east += 360.0;
     firstColumn_ = firstCell(west);
     columns_ = std::min(AreaGridColumns, std::max(lastCell(east), firstColumn_) - firstColumn_ + 1);
-    if (firstColumn_ < 0) // a rectangle of no width on longitude 0
-        firstColumn_ = 0;
     firstRow_ = std::clamp(firstCell(90.0 - std::max(first, second)), 0, AreaGridRows - 1);
     lastRow_ = std::clamp(lastCell(90.0 - std::min(first, second)), firstRow_, AreaGridRows - 1);
 }
