@@ -9,7 +9,7 @@ set(SKYVANE_LOWER_FLOOR
     attitude/math
     chart/geodesy chart/names chart/elements chart/areas chart/store
     displays/gauges displays/layout
-    gui/glyphs gui/layoutmath)
+    gui/glyphs gui/layout gui/layoutmath)
 
 # Collects the files of a tree into <lower_out> and <upper_out>, by folder.
 function(skyvane_split_floors root pattern lower_out upper_out)

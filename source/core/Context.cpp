@@ -22,6 +22,7 @@
 #include "gui/font/BMFontLoader.h"
 #include "gui/font/FlexibleFontManager.h"
 #include "gui/skin/Skin.h"
+#include "gui/windows/CMBox.h"
 #include "procedures/NullProcedure.h"
 #include "sensors/SensorManager.h"
 
@@ -186,7 +187,7 @@ void Context::pumpWindow() {
 }
 
 void Context::showMessageBox(const std::string& text) {
-    device_->getGUIEnvironment()->addMessageBox(L"Skyvane", decodeUtf8(text).c_str(), true, irr::gui::EMBF_OK);
+    (new CMBox(device_->getGUIEnvironment(), nullptr, decodeUtf8(text), L"Ok", L""))->drop();
 }
 
 void Context::setMessage(void* owner, const std::string& text, MESSAGECOLOR level, int timeoutMilliseconds) {

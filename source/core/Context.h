@@ -16,6 +16,7 @@ namespace skyvane {
 struct ChartPosition;
 class EventReceiver;
 class FlexibleFontManager;
+class IFrameRunner;
 class IProcedure;
 class IProgressCallback;
 class IniFile;
@@ -69,6 +70,9 @@ public:
     IProcedure* getCurrentProcedure() { return procedure_.get(); }
     EventReceiver* getEvents() { return events_.get(); }
     Skin* getSkin() { return skin_; }
+    /// Runs the frames of a dialog that waits (see ModalLoop); null before the first frame.
+    IFrameRunner* getFrames() { return frames_; }
+    void setFrames(IFrameRunner* frames) { frames_ = frames; }
 
     bool shallExit() const { return shallExit_; }
     void setShallExit(bool exit) { shallExit_ = exit; }
@@ -98,6 +102,7 @@ private:
     std::unique_ptr<Drawer2D> drawer_;
     std::unique_ptr<SystemManager> system_;
     Skin* skin_ = nullptr;
+    IFrameRunner* frames_ = nullptr;
     std::unique_ptr<Logger> logger_;
     std::unique_ptr<PanelManager> panels_;
     std::unique_ptr<SensorManager> sensors_;

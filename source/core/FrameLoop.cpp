@@ -12,10 +12,25 @@
 #include <cwchar>
 
 namespace skyvane {
+namespace {
+
+const irr::video::SColor plainBackdrop(0xff808080);
+
+} // namespace
 
 FrameLoop::FrameLoop(Context& context)
     : context_(context), device_(context.getIrrlichtDevice()), driver_(device_->getVideoDriver()),
-      background_(context.getSkin()->getColor("bg")), touch_(device_), stats_(FrameStats::fromEnvironment()) {}
+      background_(context.getSkin()->getColor("bg")), touch_(device_), stats_(FrameStats::fromEnvironment()) {
+    context_.setFrames(this);
+}
+
+FrameLoop::~FrameLoop() {
+    context_.setFrames(nullptr);
+}
+
+EventReceiver* FrameLoop::getEvents() {
+    return context_.getEvents();
+}
 
 void FrameLoop::run() {
     while (runFrame()) {
@@ -24,17 +39,17 @@ void FrameLoop::run() {
         logText("The frame statistics can't be written.\n");
 }
 
-bool FrameLoop::runFrame() {
+bool FrameLoop::runFrame(const ModalFrame* modal) {
     stats_.beginFrame();
     if (!device_->run() || context_.shallExit())
         return false;
     pumpOwnEvents();
     context_.getSensorManager()->Update();
-    dispatchEvents();
+    dispatchEvents(modal);
     stats_.pauseFrame();
     context_.yieldWhileInactive();
     stats_.resumeFrame();
-    draw();
+    draw(modal);
     updateCaption();
     stats_.endFrame();
     if (stats_.isEnough())
@@ -49,15 +64,24 @@ void FrameLoop::pumpOwnEvents() {
         device_->postEventFromUser(packApplicationEvent(ApplicationEvent::MemoryWarning));
 }
 
-void FrameLoop::dispatchEvents() {
+/// A message can be dismissed while a dialog is open.
+void FrameLoop::dispatchEvents(const ModalFrame* modal) {
     EventReceiver* events = context_.getEvents();
-    while (events->isEventAvailable())
-        context_.getPanelManager()->processEvent(events->popEvent());
+    PanelManager* panels = context_.getPanelManager();
+    while (events->isEventAvailable()) {
+        const irr::SEvent event = events->popEvent();
+        if (!modal)
+            panels->processEvent(event);
+        else if (!panels->processMessageBoxEvent(event) && modal->onEvent)
+            modal->onEvent(event);
+    }
 }
 
-void FrameLoop::draw() {
-    driver_->beginScene(true, true, background_);
-    context_.getPanelManager()->Render();
+void FrameLoop::draw(const ModalFrame* modal) {
+    const bool isPlain = modal && modal->backdrop == ModalFrame::Backdrop::Grey;
+    driver_->beginScene(true, true, isPlain ? plainBackdrop : background_);
+    if (!isPlain)
+        context_.getPanelManager()->Render();
     device_->getGUIEnvironment()->drawAll();
     context_.getPanelManager()->RenderAfterGUI();
     if (context_.getPanelManager()->isDrawFPS())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/ModalLoop.h"
 #include "core/engine/TouchInput.h"
 #include "core/system/FrameStats.h"
 #include "core/system/MemoryWatch.h"
@@ -10,22 +11,23 @@ namespace skyvane {
 
 class Context;
 
-/// The order of work in a frame: sensors, then the user's events, the pacer, and the drawing. A loop that waits for an
-/// answer of the user repeats runFrame() as the main loop does. Main thread only; nothing is allocated in a frame.
-class FrameLoop {
+/// The order of work in a frame: sensors, then the user's events, the pacer, and the drawing. A dialog that waits
+/// for its answer runs frames through a ModalLoop. Main thread only; nothing is allocated in a frame.
+class FrameLoop : public IFrameRunner {
 public:
-    /// The context outlives the loop.
+    /// The context outlives the loop, and knows it as its frames while it lives.
     explicit FrameLoop(Context& context);
+    ~FrameLoop() override;
 
     /// Frames until the window is closed or the program shall exit.
     void run();
-    /// One whole frame; false when there was none, since the window is closed or the program shall exit.
-    bool runFrame();
+    bool runFrame(const ModalFrame* modal = nullptr) override;
+    EventReceiver* getEvents() override;
 
 private:
     void pumpOwnEvents();
-    void dispatchEvents();
-    void draw();
+    void dispatchEvents(const ModalFrame* modal);
+    void draw(const ModalFrame* modal);
     void drawFrameRate();
     void updateCaption();
 

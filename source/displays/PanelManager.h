@@ -46,6 +46,8 @@ public:
     void renderPagePreview(irr::core::rect<int> rect, int pageOffset);
     /// False when the event was consumed.
     bool processEvent(irr::SEvent event);
+    /// The part of it that dismisses a message: true when the event was that. For frames whose events a dialog takes.
+    bool processMessageBoxEvent(const irr::SEvent& event);
 
     void nextPage();
     void previousPage();
@@ -116,7 +118,6 @@ private:
     void renderPage();
     void renderPageNumber();
     void notePage();
-    bool processMessageBoxEvent(const irr::SEvent& event);
     bool processPageKey(const irr::SEvent& event);
     bool isVisibleGUIElementAt(irr::core::vector2d<int> position);
     bool offerToPanels(const irr::SEvent& event);

@@ -43,7 +43,9 @@ class Cockpit:
         self.arguments = [str(size[0]), str(size[1])] if arguments is None else arguments
         self.folder = tempfile.mkdtemp(prefix='skyvane-ui-')
         self.home = os.path.join(self.folder, 'home')
-        self.environment = dict(os.environ, HOME=self.folder, LIBGL_ALWAYS_SOFTWARE='1', **(environment or {}))
+        # A first start takes SKYVANE_DATA_ROOT for its data without asking.
+        self.environment = dict(os.environ, HOME=self.folder, SKYVANE_DATA_ROOT=self.folder, LIBGL_ALWAYS_SOFTWARE='1')
+        self.environment.update(environment or {})
         self.processes = []
         self.make_home(config)
         if prepare:

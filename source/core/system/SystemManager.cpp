@@ -6,10 +6,12 @@
 #include "core/files/StandardDocuments.h"
 #include "core/log/Logger.h"
 #include "core/system/MemoryTest.h"
+#include "core/system/StartFrames.h"
 #include "core/time/Time.h"
 #include "gui/font/FlexibleFont.h"
 #include "gui/font/LoadFFont.h"
 #include "gui/skin/Skin.h"
+#include "gui/windows/DataLocationDialog.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -79,20 +81,40 @@ void SystemManager::createDataOfFirstStart() {
         noteTrouble("Settings can't be kept: not everything could be written in " + appHome_ + "data/.");
 }
 
-/// Takes the first folder that can be written; the home itself when there is none.
 void SystemManager::chooseDataLocation() {
+    const char* variable = std::getenv("SKYVANE_DATA_ROOT");
+    const std::string given = variable ? variable : "";
+    const std::string root = firstUsableDataRoot({given});
+    if (root.empty() && !given.empty())
+        noteTrouble("SKYVANE_DATA_ROOT names no folder that can be written to: " + given);
+    paths_ = root.empty() ? askForDataLocation() : DataPaths::below(root);
     showState(device_, L"Please wait...");
-    std::list<std::string> folders;
-    for (const MountPoint& folder : getUsableDirs())
-        folders.push_back(folder.path);
-    const std::string root = firstUsableDataRoot(folders);
-    if (root.empty())
-        noteTrouble("No folder was found that charts and logs could be written to.");
-    paths_ = DataPaths::below(root.empty() ? appHome_ : root);
     if (home_.saveDataPaths(paths_))
         std::printf("Data saved at: %s\n", (appHome_ + "data/data.ini").c_str());
     else
         noteTrouble("The data location could not be written to " + appHome_ + "data/data.ini.");
+}
+
+/// A window that is closed in place of an answer ends the program: the next start asks again.
+DataPaths SystemManager::askForDataLocation() {
+    skin_->setGUITransparency(255);
+    irr::gui::IGUIFont* former = skin_->getFont();
+    FlexibleFont* font = LoadFFont(this, context_->getFontManager(), "Roboto");
+    if (font) {
+        const float scale =
+            font->calculateOptimalScale(L"OOOOOOOO", {static_cast<irr::u32>(context_->getRecommendedButtonWidth()),
+                                                      static_cast<irr::u32>(context_->getRecommendedButtonHeight())});
+        font->setDefaultScale({scale, scale});
+        skin_->setFont(font);
+    }
+    StartFrames frames(*context_);
+    const std::optional<DataPaths> chosen =
+        DataLocationDialog(device_->getGUIEnvironment()).run(frames, getUsableDirs());
+    skin_->setFont(former);
+    context_->getFontManager()->removeFont(font);
+    if (!chosen)
+        std::exit(EXIT_SUCCESS);
+    return *chosen;
 }
 
 void SystemManager::writeMarker() {

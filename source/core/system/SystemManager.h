@@ -63,7 +63,10 @@ public:
 private:
     void testMemory();
     void createDataOfFirstStart();
+    /// The folder of the environment variable SKYVANE_DATA_ROOT without asking, for installers and tests; otherwise the
+    /// dialog.
     void chooseDataLocation();
+    DataPaths askForDataLocation();
     void writeMarker();
     void openDataFolders();
     void noteTrouble(const std::string& text);

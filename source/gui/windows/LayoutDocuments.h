@@ -1,0 +1,22 @@
+#pragma once
+
+#include "core/ini/IniFile.h"
+
+/// The layout documents of the program's windows, as texts that end in a NUL. Their sources are the files of
+/// gui/windows/documents.
+extern "C" {
+extern const char dataLocationLayout[];
+extern const char progressLandscapeLayout[];
+extern const char progressPortraitLayout[];
+}
+
+namespace skyvane {
+
+/// An embedded layout as a document.
+inline IniFile readLayout(const char* text) {
+    IniFile document;
+    document.setFromString(text);
+    return document;
+}
+
+} // namespace skyvane

@@ -1,0 +1,24 @@
+#include "gui/windows/WindowTools.h"
+
+#include <cwchar>
+
+namespace skyvane {
+
+void removeWindow(irr::gui::IGUIElement* window) {
+    if (!window)
+        return;
+    window->setVisible(false);
+    window->remove();
+}
+
+void showText(irr::gui::IGUIElement* element, const wchar_t* text) {
+    if (std::wcscmp(element->getText(), text) != 0)
+        element->setText(text);
+}
+
+bool isClickOf(const irr::SEvent& event, const irr::gui::IGUIElement* button) {
+    return button && event.EventType == irr::EET_GUI_EVENT &&
+           event.GUIEvent.EventType == irr::gui::EGET_BUTTON_CLICKED && event.GUIEvent.Caller == button;
+}
+
+} // namespace skyvane

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <irrlicht.h>
+
+namespace skyvane {
+
+/// Takes a window, or any element, out of the GUI. Null does nothing.
+void removeWindow(irr::gui::IGUIElement* window);
+
+/// Sets the text when it is another one: what stays the same is laid out once.
+void showText(irr::gui::IGUIElement* element, const wchar_t* text);
+
+/// Whether this is the click of that button; never for null.
+bool isClickOf(const irr::SEvent& event, const irr::gui::IGUIElement* button);
+
+} // namespace skyvane
