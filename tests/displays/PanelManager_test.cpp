@@ -85,6 +85,7 @@ protected:
         char folder[] = "/tmp/skyvane_panels_XXXXXX";
         ASSERT_TRUE(mkdtemp(folder));
         home = folder;
+        setenv("SKYVANE_DATA_ROOT", folder, 1); // a first start asks nothing then
         std::filesystem::create_directory_symlink(sourceFolder() + "media", home + "/media");
         context = std::make_unique<Context>(gl.device(), (home + "/skyvane").c_str(), false);
         panels = context->getPanelManager();
