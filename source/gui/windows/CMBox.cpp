@@ -1,6 +1,7 @@
 #include "gui/windows/CMBox.h"
 
 #include "gui/font/MakeWordWrappedText.h"
+#include "gui/skin/Skin.h"
 
 #include <algorithm>
 
@@ -76,13 +77,16 @@ void CMBox::build(const std::wstring& text, const std::wstring& positive, const 
     irr::gui::IGUIStaticText* shown = Environment->addStaticText(wrapped.c_str(), places.text, false, false, this);
     shown->setTextAlignment(irr::gui::EGUIA_CENTER, irr::gui::EGUIA_CENTER);
     if (!negative.empty())
-        negative_ = addButton(negative, places.firstButton);
+        negative_ = addButton(negative, places.firstButton, "redNormal");
     if (!positive.empty())
-        positive_ = addButton(positive, places.firstButton + (negative_ ? places.step : irr::core::position2di(0, 0)));
+        positive_ = addButton(positive, places.firstButton + (negative_ ? places.step : irr::core::position2di(0, 0)),
+                              "greenNormal");
 }
 
-irr::gui::IGUIButton* CMBox::addButton(const std::wstring& label, const Rect& rect) {
-    return Environment->addButton(rect, this, -1, label.c_str());
+irr::gui::IGUIButton* CMBox::addButton(const std::wstring& label, const Rect& rect, const char* style) {
+    irr::gui::IGUIButton* button = Environment->addButton(rect, this, -1, label.c_str());
+    Skin::setButtonStyle(button, style);
+    return button;
 }
 
 void CMBox::OnPostRender(irr::u32 timeMilliseconds) {

@@ -21,7 +21,7 @@ public:
           const std::wstring& positive, const std::wstring& negative, irr::s32 id = -1);
 
     bool OnEvent(const irr::SEvent& event) override;
-    /// Nothing: the box is drawn behind all the rest.
+    /// Nothing: the box is drawn after all the rest.
     void draw() override {}
     void OnPostRender(irr::u32 timeMilliseconds) override;
 
@@ -34,7 +34,8 @@ protected:
 
 private:
     void build(const std::wstring& text, const std::wstring& positive, const std::wstring& negative);
-    irr::gui::IGUIButton* addButton(const std::wstring& label, const irr::core::rect<irr::s32>& rect);
+    irr::gui::IGUIButton* addButton(const std::wstring& label, const irr::core::rect<irr::s32>& rect,
+                                    const char* style);
     void answer(irr::gui::IGUIButton* button, bool isPositive);
     bool onKey(const irr::SEvent::SKeyInput& key);
 

@@ -4,6 +4,7 @@
 #include "core/files/HomeFolder.h"
 #include "core/files/Paths.h"
 #include "core/text/Utf8.h"
+#include "gui/skin/Skin.h"
 #include "gui/windows/CMBox.h"
 #include "gui/windows/LayoutDocuments.h"
 #include "gui/windows/WindowTools.h"
@@ -25,6 +26,7 @@ DataLocationDialog::DataLocationDialog(irr::gui::IGUIEnvironment* environment) :
                                 false, nullptr, -1);
     window_->setVisible(false);
     gui_ = std::make_unique<GUI>(environment_, &document, windowArea(window_), window_, false);
+    Skin::setButtonStyle(gui_->getElement("okButton"), "greenNormal");
     choices_ = {choice("logBox", "logFreeText"), choice("terrainBox", "terrainFreeText"),
                 choice("imageBox", "imageFreeText"), choice("chartBox", "chartFreeText")};
 }

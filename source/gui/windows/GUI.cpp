@@ -2,7 +2,6 @@
 
 #include "core/text/Utf8.h"
 #include "gui/layout/WindowLayout.h"
-#include "gui/windows/ComboBoxItems.h"
 #include "gui/windows/ExtendedCheckBox.h"
 #include "gui/windows/ExtendedEditBox.h"
 
@@ -35,12 +34,6 @@ IGUIElement* addListBox(IGUIEnvironment* environment, const Rect& rect, IGUIElem
     return box;
 }
 
-IGUIElement* addComboBox(IGUIEnvironment* environment, const Rect& rect, IGUIElement* parent) {
-    irr::gui::IGUIComboBox* box = environment->addComboBox(rect, parent, -1);
-    SetComboBoxItemHeight(box, touchHeight(environment));
-    return box;
-}
-
 IGUIElement* addPlain(IGUIEnvironment* environment, const LayoutElement& layout, const Rect& rect,
                       IGUIElement* parent) {
     switch (layout.kind) {
@@ -51,7 +44,7 @@ IGUIElement* addPlain(IGUIEnvironment* environment, const LayoutElement& layout,
     case Kind::ListBox:
         return addListBox(environment, rect, parent);
     case Kind::ComboBox:
-        return addComboBox(environment, rect, parent);
+        return environment->addComboBox(rect, parent, -1);
     default:
         return environment->addScrollBar(layout.kind == Kind::HorizontalScrollBar, rect, parent, -1);
     }

@@ -4,6 +4,7 @@
 #include "core/events/EventReceiver.h"
 #include "core/system/FramePacer.h"
 #include "core/time/Time.h"
+#include "gui/skin/Skin.h"
 #include "gui/windows/GUI.h"
 #include "gui/windows/LayoutDocuments.h"
 #include "gui/windows/WindowTools.h"
@@ -45,6 +46,7 @@ ProgressDialog::ProgressDialog(Context* context, const std::wstring& text, bool 
     bar_ = new Bar(environment, window_, gui_->getSpecialRectangle("bar"));
     bar_->drop();
     irr::gui::IGUIElement* cancel = gui_->getElement("cancelButton");
+    Skin::setButtonStyle(cancel, "redNormal");
     cancel->setVisible(cancellable);
     context->getEvents()->setBackButton(cancel);
     setText(text);
