@@ -47,11 +47,9 @@ void LampView::draw(irr::core::rect<int> rect, irr::video::SColor color) const {
 WarningLamp::WarningLamp(Context* context, WarningType type) : IPanel(context), type_(type), view_(context, type) {}
 
 LampWatch WarningLamp::watch() const {
-    const auto* procedure = context_->getCurrentProcedure();
-    LampWatch watch;
-    watch.flown = procedure && context_->getCurrentProcedure()->getType() != IProcedure::None;
-    if (!watch.flown)
-        return watch;
+    IProcedure* procedure = context_->getCurrentProcedure();
+    if (!procedure || procedure->getType() == IProcedure::None)
+        return LampWatch();
     if (type_ == WarningType::ALTITUDE)
         return {true, procedure->isAltitudeChecked(), procedure->getAltitudeWarning()};
     if (type_ == WarningType::COURSE)
