@@ -34,12 +34,23 @@ AggregatableGUIElementAdapter::AggregatableGUIElementAdapter(irr::gui::IGUIEnvir
     AggregatableGUIElementAdapter::updateAbsolutePosition();
 }
 
+/// What a combo box opens hangs over the rows that follow: its own row must be the last to be drawn and the first to be
+/// hit.
+void AggregatableGUIElementAdapter::raise() {
+    irr::gui::IGUIElement* element = this;
+    while (dynamic_cast<IAggregatableGUIElement*>(element->getParent())) {
+        element->getParent()->bringToFront(element);
+        element = element->getParent();
+    }
+}
+
 /// The press goes to what the shield covers there; that takes the focus, and with it what the finger does next.
 void AggregatableGUIElementAdapter::press(const irr::SEvent& event) {
     const irr::core::position2di place(event.MouseInput.X, event.MouseInput.Y);
     irr::gui::IGUIElement* target = element_ ? element_->getElementFromPoint(place) : nullptr;
     if (!target || !target->isEnabled())
         return;
+    raise();
     Environment->setFocus(target);
     target->OnEvent(event);
 }

@@ -21,6 +21,7 @@ public:
 private:
     class Shield;
     void press(const irr::SEvent& event);
+    void raise();
 
     irr::gui::IGUIElement* element_; ///< A child, or null once it was removed.
 };

@@ -5,6 +5,7 @@
 #include "gui/elements/ScrollBar.h"
 
 #include <gtest/gtest.h>
+#include <random>
 
 namespace skyvane {
 namespace {
@@ -195,6 +196,50 @@ TEST_F(AggregateList, ChildrenComeAndGo) {
     late->remove();
     EXPECT_EQ(0u, list->getSubElementCount());
     tap(100, 100);
+}
+
+TEST_F(AggregateList, AComboBoxOpensOverTheRowsThatFollow) {
+    Options options;
+    options.scrollable = true;
+    options.subElementWeight = 0.1f;
+    auto* combo = gui->addComboBox({0, 0, 10, 10});
+    for (const wchar_t* item : {L"one", L"two", L"three", L"four"})
+        combo->addItem(item);
+    AggregateGUIElement::Elements plain{new AggregatableGUIElementAdapter(gui, combo)};
+    for (int i = 0; i < 2; ++i)
+        plain.push_back(new AggregatableGUIElementAdapter(gui, button[i] = gui->addButton({0, 0, 10, 10})));
+    list = new AggregateGUIElement(gui, options, plain, {}, listener.get(), {50, 50, 150, 450});
+    list->drop();
+    tap(60, 70);
+    tap(60, 115);
+    EXPECT_EQ(0, listener->clicks) << "the button lies below the open list";
+    EXPECT_GT(combo->getSelected(), 0);
+    tap(60, 110);
+    EXPECT_EQ(1, listener->clicks) << "the list is closed";
+    EXPECT_EQ((irr::core::rect<irr::s32>(50, 90, 149, 130)), button[0]->getAbsolutePosition());
+}
+
+// Fixed seed: fingers, wheels, rows that come and go, in any order.
+TEST_F(AggregateList, AStormLeavesItInItsRange) {
+    make(true);
+    std::mt19937 random(7);
+    const auto below = [&random](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
+    const irr::EMOUSE_INPUT_EVENT kinds[] = {irr::EMIE_LMOUSE_PRESSED_DOWN, irr::EMIE_LMOUSE_LEFT_UP,
+                                             irr::EMIE_MOUSE_MOVED, irr::EMIE_MOUSE_WHEEL, irr::EMIE_MOUSE_MOVED};
+    for (int i = 0; i < 20000; ++i) {
+        mouse(kinds[below(5)], below(400) - 100, below(800) - 100, below(3) > 0);
+        if (below(50) == 0)
+            list->addSubElement(new AggregatableGUIElement(gui, LayoutWish(), -1, nullptr), below(2) == 0);
+        if (below(40) == 0 && list->getSubElementCount() > 3)
+            (*list->getChildren().getLast())->remove();
+        if (below(10) == 0) {
+            clock.advance(0.04);
+            list->draw();
+        }
+        const int content = static_cast<int>(list->getSubElementCount()) * 100;
+        ASSERT_LE(list->getScrollOffset(), 0);
+        ASSERT_GE(list->getScrollOffset(), -std::max(0, content - 400));
+    }
 }
 
 } // namespace skyvane

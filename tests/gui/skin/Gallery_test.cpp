@@ -112,7 +112,7 @@ TEST_F(Gallery, ElementsOfTheEngine) {
     auto* gray = gui->addStaticText(L"Disabled text", at(280, 60, 240, 30), false, true, window);
     gray->setEnabled(false);
     gui->addEditBox(L"edit box", at(20, 100, 260), true, window);
-    gui->setFocus(gui->addEditBox(L"with the focus", at(300, 100, 260), true, window));
+    auto* focused = gui->addEditBox(L"with the focus", at(300, 100, 260), true, window);
     gui->addEditBox(L"disabled", at(20, 155, 260), true, window)->setEnabled(false);
     gui->addCheckBox(true, at(20, 210, 260), window, -1, L"checked");
     gui->addCheckBox(false, at(300, 210, 260), window, -1, L"not checked");
@@ -138,6 +138,7 @@ TEST_F(Gallery, ElementsOfTheEngine) {
     gui->addMessageBox(L"Message", L"A message box with a text that is long enough to need more than one line.", false,
                        irr::gui::EMBF_OK | irr::gui::EMBF_CANCEL)
         ->setRelativePosition(irr::core::position2di(700, 90));
+    gui->setFocus(focused);
     draw("skin-elements.png");
 
     skin->setGUITransparency(128);
