@@ -1,0 +1,37 @@
+#pragma once
+
+#include "core/engine/EngineRef.h"
+#include "gui/layout/EditorSchema.h"
+
+#include <irrlicht.h>
+#include <string>
+
+namespace skyvane {
+
+/// The control of one row of an IniEditor, and the value in it. Main thread only.
+class IniEditorField {
+public:
+    /// Shows the row's default. The element is made below the root; its layout takes it over.
+    IniEditorField(irr::gui::IGUIEnvironment* environment, const EditorRow& row);
+
+    void setValue(const std::wstring& value);
+    std::wstring getValue() const;
+    /// Whether the value has the form of the row's type.
+    bool isRight() const { return isCorrectType(getValue(), row_.type); }
+    /// Whether "Ok" writes the value.
+    bool isEditable() const;
+
+    const EditorRow& getRow() const { return row_; }
+    irr::gui::IGUIElement* getElement() const { return element_.get(); }
+
+private:
+    irr::gui::IGUIElement* make(irr::gui::IGUIEnvironment* environment) const;
+    irr::gui::IGUIElement* makeChoice(irr::gui::IGUIEnvironment* environment) const;
+    irr::gui::IGUIComboBox* choice() const { return static_cast<irr::gui::IGUIComboBox*>(element_.get()); }
+    irr::gui::IGUICheckBox* check() const { return static_cast<irr::gui::IGUICheckBox*>(element_.get()); }
+
+    EditorRow row_;
+    EngineRef<irr::gui::IGUIElement> element_;
+};
+
+} // namespace skyvane
