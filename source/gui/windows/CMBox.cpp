@@ -11,7 +11,8 @@ namespace {
 using Rect = irr::core::rect<irr::s32>;
 
 constexpr irr::u32 backKey = 0xA6;
-const irr::video::SColor dimming(0x90000000);
+/// Light: the instruments behind a box stay readable.
+const irr::video::SColor dimming(0x40000000);
 
 Rect whole(const irr::gui::IGUIElement* element) {
     const Rect rect = element->getAbsolutePosition();
