@@ -5,7 +5,10 @@
 #include "core/ini/IniFile.h"
 #include "core/time/Time.h"
 #include "gui/windows/CMBox.h"
+#include "gui/windows/ChooseFromListDialog.h"
 #include "gui/windows/IniEditor.h"
+#include "gui/windows/InputDialog.h"
+#include "gui/windows/NumberEditBox.h"
 #include "gui/windows/ProgressDialog.h"
 #include "support/GlDevice.h"
 #include "support/SourceFolder.h"
@@ -179,6 +182,53 @@ TEST_P(DialogsTest, ProgressGoesOnUntilThePilotGivesItUp) {
         goesOn = dialog.update();
     EXPECT_FALSE(goesOn);
     EXPECT_TRUE(dialog.isCancelled());
+}
+
+TEST_P(DialogsTest, ANumberKeepsItsBoundsAndTellsItsChanges) {
+    irr::gui::IGUIEnvironment* environment = gl.device()->getGUIEnvironment();
+    auto box = EngineRef<NumberEditBox>::adopt(
+        new NumberEditBox(environment, nullptr, 5, {100, 100, 500, 150}, 7, {10, 0, 1, 5, 1}));
+    int told = 0;
+    ModalLoop loop(*frames, {[&](const irr::SEvent& event) {
+        told += event.EventType == irr::EET_GUI_EVENT && event.GUIEvent.Caller == box.get() &&
+                event.GUIEvent.EventType == NumberEditBox::NumberChanged;
+    }});
+    const auto press = [&](const wchar_t* caption) {
+        click(findText(box.get(), caption));
+        loop.step();
+    };
+    press(L"+");
+    EXPECT_EQ(8.0, box->getValue());
+    press(L"++");
+    EXPECT_EQ(10.0, box->getValue());
+    press(L"++");
+    EXPECT_EQ(2, told);
+    press(L"--");
+    press(L"--");
+    press(L"-");
+    EXPECT_EQ(0.0, box->getValue());
+    EXPECT_NE(nullptr, findText(box.get(), L"0.0"));
+    picture("number");
+}
+
+TEST_P(DialogsTest, TheInputAndTheListStandOnTheScreen) {
+    const InputDialog dialog =
+        addInputDialog(gl.device()->getGUIEnvironment(), L"Rename", L"The new name of the page:", L"Page 1");
+    ModalLoop loop(*frames);
+    loop.step();
+    picture("input");
+    dialog.window->remove();
+    std::vector<irr::gui::IGUIButton*> buttons;
+    irr::gui::IGUIWindow* list =
+        createChooseFromListDialog(gl.device(), buttons, {4, 5}, {L"One", L"A longer label", L"Three"}, L"Choose");
+    loop.step();
+    picture("choose");
+    ASSERT_EQ(3u, buttons.size());
+    EXPECT_EQ(5, buttons[1]->getID());
+    EXPECT_EQ(-1, buttons[2]->getID());
+    list->remove();
+    list = createChooseFromListDialog(gl.device(), buttons, {}, std::vector<std::wstring>(500, L"x"), L"Many");
+    EXPECT_LE(list->getAbsolutePosition().LowerRightCorner.Y, root->getAbsolutePosition().LowerRightCorner.Y);
 }
 
 INSTANTIATE_TEST_SUITE_P(BothShapes, DialogsTest, testing::Bool());
