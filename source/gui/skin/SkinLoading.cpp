@@ -1,3 +1,4 @@
+#include "core/engine/MipmappedTexture.h"
 #include "core/log/Logger.h"
 #include "gui/skin/Skin.h"
 #include "gui/skin/SkinSprites.h"
@@ -156,7 +157,7 @@ void Skin::replaceSprites(const std::string& mediaFolder) {
 }
 
 irr::video::ITexture* Skin::loadImage(const std::string& file) const {
-    return environment_->getVideoDriver()->getTexture(file.c_str());
+    return loadMipmappedTexture(environment_->getVideoDriver(), file);
 }
 
 } // namespace skyvane
