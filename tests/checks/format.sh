@@ -2,4 +2,4 @@
 # The sources are laid out as .clang-format says.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
-git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run -Werror
+find source tools tests benchmarks -name '*.cpp' -o -name '*.h' | xargs clang-format --dry-run -Werror
