@@ -7,6 +7,7 @@
 #include "core/text/Utf8.h"
 #include "gui/elements/AggregatableGUIElementAdapter.h"
 #include "gui/elements/AggregateGUIElement.h"
+#include "gui/elements/ColorSelector.h"
 #include "gui/skin/Skin.h"
 #include "gui/windows/GUI.h"
 #include "gui/windows/IniEditorField.h"
@@ -132,6 +133,18 @@ void IniEditor::processEvent(const irr::SEvent& event) {
         accept();
     else if (isClickOf(event, cancel_))
         removeGUI();
+    else
+        for (const auto& field : fields_)
+            if (field->isColor() && isClickOf(event, field->getElement()))
+                return chooseColor(*field);
+}
+
+void IniEditor::chooseColor(IniEditorField& field) {
+    ColorSelector selector(context_, field.getColor());
+    selector.select(field.hasAlpha());
+    if (selector.lastSuccess())
+        field.setColor(selector.getColor());
+    context_->getEvents()->setBackButton(cancel_);
 }
 
 void IniEditor::accept() {

@@ -18,8 +18,8 @@ class IniFile;
 ///     IniEditor editor(context, "GDL 90", L"port,Port:,4000,INT;flavor,Flavor:,Generic\\;Talos,ONE_OF;", nullptr);
 ///     if (editor.run(&document)) ... "Ok" was pressed, the values are in the document ...
 ///
-/// The keys stand in the unnamed section. Values that have the wrong form keep the dialog open. Colours and chart
-/// elements are shown, and stay as they are. Main thread only.
+/// The keys stand in the unnamed section. Values that have the wrong form keep the dialog open. Chart elements
+/// are shown, and stay as they are. Main thread only.
 class IniEditor {
 public:
     using ValueType = EditorValueType;
@@ -48,6 +48,7 @@ private:
     irr::gui::IGUIButton* addButton(const wchar_t* label, const char* style, irr::gui::EGUI_ALIGNMENT side);
     void createGUI();
     void accept();
+    void chooseColor(IniEditorField& field);
     void removeGUI();
 
     Context* context_;

@@ -2,12 +2,20 @@
 
 #include "core/text/Numbers.h"
 #include "core/text/Utf8.h"
+#include "gui/elements/ColorSwatch.h"
 
 namespace skyvane {
 namespace {
 
 using Type = EditorValueType;
 const irr::core::rect<irr::s32> laidOutLater(0, 0, 1, 1);
+
+/// Lets the button beneath have the clicks.
+class ButtonSwatch : public ColorSwatch {
+public:
+    using ColorSwatch::ColorSwatch;
+    bool isPointInside(const irr::core::position2di&) const override { return false; }
+};
 
 } // namespace
 
@@ -27,6 +35,9 @@ irr::gui::IGUIElement* IniEditorField::make(irr::gui::IGUIEnvironment* environme
         return makeChoice(environment);
     case Type::BOOLEAN:
         return environment->addCheckBox(false, laidOutLater);
+    case Type::COLOR_RGB:
+    case Type::COLOR_RGBA:
+        return makeSwatch(environment);
     default:
         irr::gui::IGUIStaticText* text = environment->addStaticText(L"", laidOutLater);
         text->setTextAlignment(irr::gui::EGUIA_UPPERLEFT, irr::gui::EGUIA_CENTER);
@@ -42,13 +53,31 @@ irr::gui::IGUIElement* IniEditorField::makeChoice(irr::gui::IGUIEnvironment* env
     return box;
 }
 
+/// The swatch keeps its share of the button, whatever place that is given.
+irr::gui::IGUIElement* IniEditorField::makeSwatch(irr::gui::IGUIEnvironment* environment) const {
+    irr::gui::IGUIButton* button = environment->addButton({0, 0, 100, 100});
+    auto* swatch = new ButtonSwatch(environment, color_, button, {5, 20, 95, 80});
+    swatch->setAlignment(irr::gui::EGUIA_SCALE, irr::gui::EGUIA_SCALE, irr::gui::EGUIA_SCALE, irr::gui::EGUIA_SCALE);
+    swatch->drop();
+    return button;
+}
+
+bool IniEditorField::isColor() const {
+    return row_.type == Type::COLOR_RGB || row_.type == Type::COLOR_RGBA;
+}
+
 bool IniEditorField::isEditable() const {
-    return row_.type <= Type::BOOLEAN || row_.type == Type::ONE_OF;
+    return row_.type <= Type::BOOLEAN || row_.type == Type::ONE_OF || isColor();
 }
 
 void IniEditorField::setValue(const std::wstring& value) {
     if (row_.type == Type::BOOLEAN)
         return check()->setChecked(toBool(encodeUtf8(value)));
+    if (isColor()) {
+        const EditorColor c = EditorColor::parse(encodeUtf8(value));
+        color_.set(hasAlpha() ? c.alpha : 255, c.red, c.green, c.blue);
+        return;
+    }
     if (row_.type != Type::ONE_OF)
         return element_->setText(value.c_str());
     for (irr::u32 i = 0; i < choice()->getItemCount(); ++i)
@@ -59,6 +88,12 @@ void IniEditorField::setValue(const std::wstring& value) {
 std::wstring IniEditorField::getValue() const {
     if (row_.type == Type::BOOLEAN)
         return check()->isChecked() ? L"1" : L"0";
+    if (isColor()) {
+        const auto number = [](irr::u32 component) { return static_cast<int>(component); };
+        const EditorColor c{number(color_.getRed()), number(color_.getGreen()), number(color_.getBlue()),
+                            number(color_.getAlpha())};
+        return decodeUtf8(c.toText(hasAlpha()));
+    }
     if (row_.type != Type::ONE_OF)
         return element_->getText();
     const irr::s32 selected = choice()->getSelected();

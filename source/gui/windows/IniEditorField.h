@@ -20,6 +20,11 @@ public:
     bool isRight() const { return isCorrectType(getValue(), row_.type); }
     /// Whether "Ok" writes the value.
     bool isEditable() const;
+    /// Whether the control is a button that shows a colour.
+    bool isColor() const;
+    bool hasAlpha() const { return row_.type == EditorValueType::COLOR_RGBA; }
+    irr::video::SColor getColor() const { return color_; }
+    void setColor(irr::video::SColor color) { color_ = color; }
 
     const EditorRow& getRow() const { return row_; }
     irr::gui::IGUIElement* getElement() const { return element_.get(); }
@@ -27,10 +32,12 @@ public:
 private:
     irr::gui::IGUIElement* make(irr::gui::IGUIEnvironment* environment) const;
     irr::gui::IGUIElement* makeChoice(irr::gui::IGUIEnvironment* environment) const;
+    irr::gui::IGUIElement* makeSwatch(irr::gui::IGUIEnvironment* environment) const;
     irr::gui::IGUIComboBox* choice() const { return static_cast<irr::gui::IGUIComboBox*>(element_.get()); }
     irr::gui::IGUICheckBox* check() const { return static_cast<irr::gui::IGUICheckBox*>(element_.get()); }
 
     EditorRow row_;
+    irr::video::SColor color_{0xff000000};
     EngineRef<irr::gui::IGUIElement> element_;
 };
 

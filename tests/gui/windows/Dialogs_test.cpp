@@ -81,7 +81,7 @@ protected:
 
 constexpr const wchar_t* schema = L"port,Port:,4000,INT;flavor,Flavor:,Generic\\;Talos\\;Levil,ONE_OF;"
                                   L"name,Name:,Skyvane,STRING;scale,Scale:,1.5,DOUBLE;on,Active:,1,BOOLEAN;"
-                                  L"fixed,Serial number:,17,NOT_EDITABLE;";
+                                  L"fixed,Serial number:,17,NOT_EDITABLE;tint,Colour:,10\\,20\\,300,COLOR_RGB;";
 
 } // namespace
 
@@ -116,6 +116,7 @@ TEST_P(DialogsTest, TheEditorWritesWhatWasEnteredAndKeepsWrongNumbersOut) {
     EXPECT_EQ("0", document.get("", "on"));
     EXPECT_EQ("kept", document.get("", "other"));
     EXPECT_FALSE(document.isAvailable("", "fixed"));
+    EXPECT_EQ("10,20,255", document.get("", "tint"));
 }
 
 TEST_P(DialogsTest, CancelLeavesTheDocumentAlone) {
