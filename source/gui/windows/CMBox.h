@@ -6,7 +6,8 @@
 namespace skyvane {
 
 /// The program's message box: a text and up to two buttons above everything else, in the skin's look. What lies behind
-/// is dimmed and gets neither clicks nor keys; the frame goes on.
+/// is dimmed and gets no clicks; keys still turn the pages, so that a pilot can change the display first. The frame
+/// goes on.
 ///
 ///     (new CMBox(environment, nullptr, L"Delete the page?", L"Delete", L"Cancel"))->drop();
 ///
