@@ -109,6 +109,9 @@ bool CMBox::OnEvent(const irr::SEvent& event) {
     if (event.EventType != irr::EET_GUI_EVENT)
         return IGUIElement::OnEvent(event);
     const irr::SEvent::SGUIEvent& gui = event.GUIEvent;
+    // Who consumes these refuses the focus, and Enter would not reach the button.
+    if (gui.EventType == irr::gui::EGET_ELEMENT_FOCUSED || gui.EventType == irr::gui::EGET_ELEMENT_FOCUS_LOST)
+        return false;
     if (gui.EventType == irr::gui::EGET_BUTTON_CLICKED && gui.Caller &&
         (gui.Caller == positive_ || gui.Caller == negative_))
         answer(static_cast<irr::gui::IGUIButton*>(gui.Caller), gui.Caller == positive_);
