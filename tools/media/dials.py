@@ -505,17 +505,17 @@ PLANE, BALL = (0.0625, 0.34375, 0.9375, 0.65625), (0.4375, 0.703125, 0.5625, 0.8
 PARTS = {"turn_plane": PLANE, "turn_ball": BALL, "alt_100": HAND, "alt_1000": HAND, "alt_10000": HAND, "comp_bug": BUG, "att_top": TOP}
 
 DRAWINGS = {
-    "speed_bg": (512, 1000, disc), "alt_bg": (512, 1000, altimeter_face), "vsi_bg": (512, 1000, feet_face), "vsi_bg_m": (512, 1000, metre_face),
+    "speed_bg": (256, 1000, disc), "alt_bg": (512, 1000, altimeter_face), "vsi_bg": (512, 1000, feet_face), "vsi_bg_m": (512, 1000, metre_face),
     "comp_card": (512, 1000, compass_card), "comp_plane": (512, 1000, compass_plane),
     "comp_bug": (512, 1000, compass_bug),
     "alt_100": (512, 1000, hand_100), "alt_1000": (512, 1000, hand_1000), "alt_10000": (512, 1000, hand_10000),
-    "att_sky": (512, 1000, lambda: attitude_disc(SKY, SKY_LOW, 1)),
-    "att_ground": (512, 1000, lambda: attitude_disc(GROUND, GROUND_HIGH, -1)),
+    "att_sky": (256, 1000, lambda: attitude_disc(SKY, SKY_LOW, 1)),
+    "att_ground": (256, 1000, lambda: attitude_disc(GROUND, GROUND_HIGH, -1)),
     "att_ladder": (512, 900, attitude_ladder), "att_bank": (512, 1000, attitude_bank),
     "att_top": (512, 1000, attitude_top),
-    "gauge_back_alpha": (640, 1000, bezel), "gauge_back_back": (640, 1000, outer_ring),
+    "gauge_back_alpha": (640, 1000, bezel), "gauge_back_back": (512, 1000, outer_ring),
     "roundline": (64, 1000, round_line), "white": (8, 1000, lambda: '<path fill="#fff" d="M-500-500h1000v1000h-1000z"/>'),
-    "loading": (512, 1000, loading),
+    "loading": (320, 1000, loading),
     "attitude_preview": (256, 1000, attitude_preview), "alt_preview": (256, 1000, altimeter_preview),
     "comp_preview": (256, 1000, compass_preview), "vsi_preview": (256, 1000, vertical_preview),
     "speed_preview": (256, 1000, speed_preview),
