@@ -93,10 +93,18 @@ class Cockpit:
 
     def feed(self, *arguments):
         """Starts flightfeed with these arguments; end() it to fall silent."""
-        feeder = subprocess.Popen([os.path.join(self.build, 'tools/flightfeed/flightfeed'), *arguments],
-                                  stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
+        self.truth_path = os.path.join(self.folder, 'truth.csv')
+        with open(self.truth_path, 'wb') as truth:
+            feeder = subprocess.Popen([os.path.join(self.build, 'tools/flightfeed/flightfeed'), *arguments],
+                                      stdin=subprocess.DEVNULL, stdout=truth)
         self.processes.append(feeder)
         return feeder
+
+    def truth(self):
+        """The state sent last by a feeder that was started with --print, by the names of its columns."""
+        with open(self.truth_path) as lines:
+            rows = lines.read().split('\n')[:-1]
+        return dict(zip(rows[0].split(','), map(float, rows[-1].split(',')))) if len(rows) > 1 else None
 
     def output(self):
         with open(self.output_path, errors='replace') as text:

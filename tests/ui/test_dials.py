@@ -121,3 +121,36 @@ def test_portrait_page_shows_the_same_dials(build):
         cockpit.save(pixels, 'portrait')
         bank, nose = Dial((0.0, 0.0, 1.0, 0.5), (720, 1280)).horizon(pixels)
         assert apart(bank, STATES[1]['roll']) < 1.5 and abs(nose - STATES[1]['pitch']) < 1.0, (bank, nose)
+
+
+def follow(build, name, *arguments):
+    """A flight in motion, slowed down so that a look takes no time in it: what the dials show is what was just sent."""
+    with Cockpit(build, DEMO, SIZE) as cockpit:
+        cockpit.wait_for_window()
+        dismiss_box(cockpit)
+        cockpit.feed('--print', '--speed', '0.2', *arguments)
+        cockpit.wait(cockpit.truth, 10, 'the flight')
+        banks = []
+        for look in range(6):
+            time.sleep(2)
+            pixels, sent = cockpit.look(), cockpit.truth()
+            bank, nose = DIALS['attitude'].horizon(pixels)
+            assert apart(bank, sent['roll_deg']) < 3, (look, 'bank', bank, sent)
+            assert abs(nose - sent['pitch_deg']) < 1.5, (look, 'pitch', nose, sent)
+            assert apart(DIALS['compass'].card(pixels, build), -sent['heading_deg']) < 3, (look, 'heading', sent)
+            assert apart(DIALS['altimeter'].needle(pixels, 0.725), 0.36 * sent['altitude_ft']) < 4, (look, 'altitude', sent)
+            banks.append(sent['roll_deg'])
+        cockpit.save(pixels, name)
+        assert max(banks) - min(banks) > 3, 'the flight was to turn: %s' % banks
+
+
+def test_the_scripted_flight_is_followed(build):
+    follow(build, 'scripted-flight', '--from', '397')
+
+
+def test_the_recorded_flight_is_followed(build):
+    data = os.environ.get('SKYVANE_DATA')
+    if not data:
+        print('skipped: the recorded flight, since SKYVANE_DATA names no folder')
+        return
+    follow(build, 'recorded-flight', '--replay', os.path.join(data, 'flights/pyrenees-c172-25hz.csv.gz'), '--from', '600')
