@@ -2,6 +2,7 @@
 # unit.sh BUILD: the unit tests of a build, those that draw on a display of their own.
 set -euo pipefail
 build=$1
+[ -n "${SKYVANE_DATA:-}" ] || echo "skipped: tests on recorded flights and real airports, since SKYVANE_DATA names no folder"
 # The engine and Mesa keep allocations for the life of the process; what a test itself leaks is told in lower_tests.
 "$build/tests/lower_tests" --gtest_brief=1
 "$build/tests/tool_tests" --gtest_brief=1
