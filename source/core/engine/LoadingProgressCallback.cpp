@@ -32,7 +32,7 @@ void LoadingProgressCallback::draw() {
         return;
     irr::video::IVideoDriver* driver = device_->getVideoDriver();
     const Rect screen(irr::core::position2di(0, 0), irr::core::dimension2di(driver->getScreenSize()));
-    driver->beginScene(true, true, irr::video::SColor(255, 0, 0, 0));
+    driver->beginScene(true, false, irr::video::SColor(255, 0, 0, 0));
     if (texture_) {
         const irr::core::dimension2d<irr::u32> size = texture_->getOriginalSize();
         driver->draw2DImage(texture_, fitted(size, screen),

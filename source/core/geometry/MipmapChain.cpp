@@ -7,6 +7,8 @@ namespace skyvane {
 namespace {
 
 uint32_t meanOf(const uint32_t (&four)[4]) {
+    if (four[0] == four[1] && four[0] == four[2] && four[0] == four[3])
+        return four[0]; // most of a dial is plain
     uint32_t alpha = 0, red = 0, green = 0, blue = 0;
     for (const uint32_t pixel : four) {
         const uint32_t a = pixel >> 24;
