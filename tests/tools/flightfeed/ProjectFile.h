@@ -1,6 +1,7 @@
 #pragma once
 
-#include <filesystem>
+#include "support/SourceFolder.h"
+
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
@@ -8,13 +9,9 @@
 
 namespace skyvane {
 
-/// The path of a file of the project, which is looked for upwards from the test program.
+/// The path of a file of the project.
 inline std::string projectPath(const std::string& name) {
-    std::error_code error;
-    std::filesystem::path folder = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
-    while (folder.has_relative_path() && !std::filesystem::exists(folder / "CMakePresets.json", error))
-        folder = folder.parent_path();
-    return (folder / name).string();
+    return sourceFolder() + name;
 }
 
 /// The file's bytes; a failure of the test when it can't be read.
