@@ -93,14 +93,17 @@ struct StaticDataRun {
     int& done;
     IProgressSink* progress;
     int unreadable = 0;
+    bool cancelled = false;
 
     void visit(int index) {
         IArea* area = getAreaOfTable(table, index);
         if (!area)
             return;
         ++done;
-        if (progress && done % (AreaCount / ProgressSteps) == 0)
+        if (progress && !cancelled && done % (AreaCount / ProgressSteps) == 0) {
             progress->setProgress(static_cast<double>(done) / AreaCount);
+            cancelled = progress->isCancelled();
+        }
         if (AreaLeaf* leaf = area->asLeaf()) {
             fill(*leaf, index);
             return;
@@ -125,14 +128,14 @@ struct StaticDataRun {
     }
 
     void read(int id, uint8_t (&bytes)[IChartElement::StaticDataSize]) {
-        const int index = getElementIndex(id);
-        if (const std::unique_ptr<IChartElement> element = set->loadChartElement(index)) {
-            element->writeStaticData(reinterpret_cast<char*>(bytes));
-            return;
-        }
         for (uint8_t& byte : bytes)
             byte = UnreadableByte;
-        if (++unreadable <= UnreadableElementsLogged)
+        if (cancelled)
+            return;
+        const int index = getElementIndex(id);
+        if (const std::unique_ptr<IChartElement> element = set->loadChartElement(index))
+            element->writeStaticData(reinterpret_cast<char*>(bytes));
+        else if (++unreadable <= UnreadableElementsLogged)
             logText("Something is wrong with the SubChart. Could not load element: " + std::to_string(index) + " (" +
                     std::to_string(id) + ")\n");
     }
@@ -155,7 +158,9 @@ void recompute(IAreaElementSet* set, const std::string& path, DirtyFlag& flag, I
     int done = 0;
     calcStaticData(0, set, out, table, done, progress);
     out.close();
-    if (!out || !DirtyFlag::flush(path) || !flag.save(false))
+    if (progress && progress->isCancelled())
+        logText("Cancelled: it will be calculated again at the next start.\n");
+    else if (!out || !DirtyFlag::flush(path) || !flag.save(false))
         logText("Could not write " + path + ": it will be calculated again at the next start.\n");
 }
 

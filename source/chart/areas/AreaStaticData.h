@@ -15,7 +15,8 @@ class IProgressSink;
 /// The elements are read when `force` is set, when there is no file of this version, when it doesn't fit the leaves
 /// record by record, and when the flag beside it says that its writing was interrupted. The flag is on disk before the
 /// file is touched and goes only when all of the file is on disk: killed at any moment, the next start begins again.
-/// Where the flag or the file can't be written the leaves get their bytes all the same. `progress` may be null.
+/// Where the flag or the file can't be written the leaves get their bytes all the same. Cancelled by `progress`, which
+/// may be null, the elements left count as unreadable until the next start.
 void mergeAreaStaticData(IAreaElementSet* set, int subChartIndex, IArea** table, IProgressSink* progress, bool force);
 
 /// The computation, at and below an area: appends the three bytes of each new id to its leaf, and to the file a record

@@ -57,4 +57,13 @@ ElementFactories makeElementFactories() {
     return factories;
 }
 
+FactoriesByType sortByType(const ElementFactories& factories) {
+    FactoriesByType byType{};
+    for (const ElementKind& kind : elementKinds)
+        for (const std::unique_ptr<IChartElementFactory>& factory : factories)
+            if (factory && factory->getStringDescriptor() == kind.descriptor)
+                byType[static_cast<size_t>(kind.type)] = factory.get();
+    return byType;
+}
+
 } // namespace skyvane

@@ -25,6 +25,11 @@ using ElementFactories = std::array<std::unique_ptr<IChartElementFactory>, IChar
 /// One of each kind, by type value.
 ElementFactories makeElementFactories();
 
+/// Their factories by type value, whatever their order; null for a kind that has none. Made from the descriptors, and
+/// good as long as the factories live.
+using FactoriesByType = std::array<IChartElementFactory*, IChartElement::TypeCount>;
+FactoriesByType sortByType(const ElementFactories& factories);
+
 /// A new element of a kind, null for a number that is none.
 std::unique_ptr<IChartElement> createChartElement(int32_t type);
 

@@ -16,7 +16,13 @@ namespace {
 constexpr double guessedLengthMetres = 600.0;
 constexpr double leastLengthMetres = 10.0;
 constexpr double widestParallelMetres = 91.44;
-constexpr uint32_t widestTableFeet = 75;
+constexpr double guessedParallelMetres = 36.576;
+constexpr int32_t widestTableFeet = 75;
+
+/// Records store an unknown size as 0 or as a negative number.
+int32_t asSigned(uint32_t feet) {
+    return static_cast<int32_t>(feet);
+}
 
 const RunwayEnd& endOf(const Runway* runway, bool primary) {
     return runway->ends[primary ? 0 : 1];
@@ -42,8 +48,8 @@ bool selectThreshholdPosition(const AirportElement* airport, const Runway* runwa
         position = end.threshold;
         return true;
     }
-    const double known = runway->lengthFeet * MetresPerFoot;
-    const double length = runway->lengthFeet < 1 ? guessedLengthMetres : std::max(known, leastLengthMetres);
+    const int32_t feet = asSigned(runway->lengthFeet);
+    const double length = feet < 1 ? guessedLengthMetres : std::max(feet * MetresPerFoot, leastLengthMetres);
     const double away = runway->directionDegrees % 360 + (primary ? 180.0 : 0.0);
     const RunwayEnd& other = endOf(runway, !primary);
     position =
@@ -56,8 +62,10 @@ void correctThreshholdPosition(const Runway* runway, irr::core::vector3d<double>
     const std::string& name = runway->ends[0].name;
     if (name.empty() || (name.back() != 'L' && name.back() != 'R'))
         return;
-    const double metres =
-        runway->widthFeet > widestTableFeet ? widestParallelMetres : MetresPerFoot * 4.0 * runway->widthFeet;
+    const int32_t feet = asSigned(runway->widthFeet);
+    double metres = feet > widestTableFeet ? widestParallelMetres : MetresPerFoot * 4.0 * feet;
+    if (feet < 0)
+        metres = guessedParallelMetres;
     irr::core::vector3d<double> right(second.Z - first.Z, 0.0, first.X - second.X);
     right.normalize();
     right *= name.back() == 'L' ? -metres : metres;

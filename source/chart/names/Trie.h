@@ -12,6 +12,9 @@ namespace skyvane {
 class IIndexCorrectionCallback;
 class PartialFile;
 
+/// The name index of a chart set, in its folder.
+constexpr const char* NamesFileName = "Names.dat";
+
 /// The name index: finds ids by the beginnings of their names.
 ///
 ///     Trie names;
