@@ -1,0 +1,78 @@
+#include "terrain/mesh/WideMesh.h"
+
+#include "chart/geodesy/LocalFrame.h"
+#include "terrain/tree/TerrainSampler.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace skyvane {
+namespace {
+
+constexpr double InnerRadiusMetres = 5000.0;
+constexpr double RingGrowth = 1.0273147992630516;
+constexpr double AngleStep = 0.027318196991304347;
+/// Kilometres from ring 0 to ring 1.
+constexpr double FirstSpacing = 5.0 * 0.027314799263051557;
+constexpr double InnerDensity = 53.61224145645902;
+constexpr double LeastDensity = 2.0;
+
+/// Samples per square kilometre that a ring needs, from its distance to the next.
+double ringDensity(int ring) {
+    if (ring == 0)
+        return InnerDensity;
+    const double spacing = std::pow(RingGrowth, ring) * FirstSpacing;
+    return std::max(1.0 / (spacing * spacing), LeastDensity);
+}
+
+} // namespace
+
+double WideMesh::ringRadius(int ring) {
+    return InnerRadiusMetres * std::pow(RingGrowth, ring);
+}
+
+WideMesh::WideMesh() {
+    places_.reserve(static_cast<size_t>(Rings) * VerticesPerRing);
+    for (int ring = 0; ring < Rings; ++ring)
+        for (int j = 0; j < VerticesPerRing; ++j)
+            places_.push_back({ringRadius(ring) * std::sin(j * AngleStep), ringRadius(ring) * std::cos(j * AngleStep)});
+}
+
+void WideMesh::build(TerrainSampler& terrain, const ChartPosition& centre, TerrainMesh& mesh) const {
+    mesh.vertices.resize(places_.size());
+    mesh.centre = centre;
+    mesh.radiusMetres = static_cast<float>(ringRadius(Rings - 1));
+    HeightFigures figures;
+    TerrainVertex* vertex = mesh.vertices.data();
+    const Place* place = places_.data();
+    for (int ring = 0; ring < Rings; ++ring) {
+        const double density = ringDensity(ring);
+        for (int j = 0; j < VerticesPerRing; ++j, ++place) {
+            const ChartPosition position =
+                Vector3df642ChartPosition(centre, irr::core::vector3d<double>(place->x, 0.0, place->z));
+            const float height = figures.add(terrain.getHeight(position, density, true, false));
+            vertex++->position.set(static_cast<float>(place->x), height, static_cast<float>(place->z));
+        }
+    }
+    figures.store(mesh);
+    calcGridNormals(mesh.vertices, VerticesPerRing, GridColumns::Closed);
+    for (int j = 0; j < VerticesPerRing; ++j)
+        mesh.vertices[static_cast<size_t>(j)].position.Y = mesh.minimum - (mesh.maximum - mesh.minimum);
+}
+
+std::vector<uint16_t> WideMesh::makeIndices() {
+    std::vector<uint16_t> indices;
+    indices.reserve(6u * (Rings - 1) * VerticesPerRing);
+    for (int ring = 0; ring + 1 < Rings; ++ring)
+        for (int j = 0; j < VerticesPerRing; ++j) {
+            const int next = (j + 1) % VerticesPerRing;
+            const auto inner = static_cast<uint16_t>(ring * VerticesPerRing + j);
+            const auto innerNext = static_cast<uint16_t>(ring * VerticesPerRing + next);
+            const auto outer = static_cast<uint16_t>(inner + VerticesPerRing);
+            const auto outerNext = static_cast<uint16_t>(innerNext + VerticesPerRing);
+            indices.insert(indices.end(), {inner, outer, outerNext, inner, outerNext, innerNext});
+        }
+    return indices;
+}
+
+} // namespace skyvane

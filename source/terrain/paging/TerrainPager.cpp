@@ -1,0 +1,184 @@
+#include "terrain/paging/TerrainPager.h"
+
+#include "chart/geodesy/LocalFrame.h"
+#include "core/threads/Threads.h"
+#include "core/time/Time.h"
+#include "terrain/tree/TerrainSampler.h"
+
+#include <algorithm>
+#include <cmath>
+#include <pthread.h>
+
+namespace skyvane {
+namespace {
+
+constexpr int RoundMilliseconds = 10;
+constexpr int PausePollMilliseconds = 100;
+/// Finer than every leaf.
+constexpr double ElevationDensity = 200.0;
+constexpr double NearMoveMetres = 300.0;
+constexpr double NearClimbMetres = 100.0;
+constexpr double WideMoveMetres = 5000.0;
+
+using Lock = std::lock_guard<std::mutex>;
+
+double distance(const ChartPosition& a, const ChartPosition& b) {
+    return ChartPosition2Vector3df64(a, b, 0.0).getLength();
+}
+
+bool isUsable(const TerrainPager::Aircraft& aircraft) {
+    return aircraft.available && std::isfinite(aircraft.position.longitude) &&
+           std::isfinite(aircraft.position.latitude) && std::isfinite(aircraft.altitudeMetres);
+}
+
+} // namespace
+
+TerrainPager::TerrainPager(TerrainStore& store, int sampleAmount) : store_(store), nearMesh_(sampleAmount) {}
+
+TerrainPager::~TerrainPager() {
+    {
+        const Lock lock(mutexMessageAndPos_);
+        exitRequest_ = true;
+    }
+    if (started_)
+        pthread_join(thread_, nullptr);
+}
+
+bool TerrainPager::start() {
+    if (!started_)
+        started_ = createThread(thread_, &TerrainPager::terrMain, this, true, 0);
+    return started_;
+}
+
+void* TerrainPager::terrMain(void* self) {
+    auto* pager = static_cast<TerrainPager*>(self);
+    do {
+        Delay(pager->isThreadPaused() ? PausePollMilliseconds : RoundMilliseconds);
+    } while (pager->runRound());
+    return nullptr;
+}
+
+bool TerrainPager::runRound() {
+    PointCalls points;
+    ImageCalls images;
+    Aircraft aircraft;
+    bool nearWanted, wideWanted;
+    {
+        const Lock lock(mutexMessageAndPos_);
+        isPaused_ = pauseRequest_;
+        if (exitRequest_ || isPaused_)
+            return !exitRequest_;
+        points.swap(pCalls_);
+        images.swap(calls_);
+        aircraft = aircraft_;
+        nearWanted = terrContinue_;
+        wideWanted = terrWideContinue_;
+    }
+    answerPoints(points);
+    answerImages(images);
+    handOver(points, images);
+    if (isUsable(aircraft))
+        watchAircraft(aircraft, nearWanted, wideWanted);
+    else
+        forgetMeshes();
+    return true;
+}
+
+void TerrainPager::answerPoints(PointCalls& calls) {
+    TerrainSampler sampler(store_);
+    for (auto& call : calls) {
+        const double density = 1.0 / call->samplingInterval;
+        for (size_t i = 0; i < call->positions.size(); ++i) {
+            const float height = sampler.getHeight(call->positions[i], density, true, true);
+            call->heights[i] = height;
+            call->minimum = std::min(call->minimum, height);
+            call->maximum = std::max(call->maximum, height);
+        }
+        call->timeStamp = MilliSecs();
+    }
+}
+
+void TerrainPager::answerImages(ImageCalls& calls) {
+    TerrainSampler sampler(store_);
+    for (auto& call : calls) {
+        call->pixels.resize(static_cast<size_t>(std::max(call->width, 0)) *
+                            static_cast<size_t>(std::max(call->height, 0)));
+        call->figures = fillTerrainImage(sampler, call->nw, call->se, call->width, call->height, call->pixels.data());
+    }
+}
+
+void TerrainPager::handOver(PointCalls& points, ImageCalls& images) {
+    const Lock lock(mutexMessageAndPos_);
+    finishedPoints_.splice(finishedPoints_.end(), points);
+    finishedImages_.splice(finishedImages_.end(), images);
+}
+
+void TerrainPager::watchAircraft(const Aircraft& aircraft, bool nearWanted, bool wideWanted) {
+    const float elevation = store_.getRoot()->getHeight(aircraft.position, ElevationDensity, true, false);
+    const bool moved = !lastNear_.exists || distance(lastNear_.position, aircraft.position) > NearMoveMetres ||
+                       std::fabs(lastNear_.altitudeMetres - aircraft.altitudeMetres) > NearClimbMetres;
+    if (nearWanted && moved) {
+        buildNear(aircraft, elevation);
+    } else {
+        const Lock lock(mutexMessageAndPos_);
+        currentElevation_ = elevation;
+        lost_ = false;
+    }
+    if (wideWanted && (!lastWide_.exists || distance(lastWide_.position, aircraft.position) > WideMoveMetres))
+        buildWide(aircraft);
+}
+
+void TerrainPager::buildNear(const Aircraft& aircraft, float elevation) {
+    const ChartPosition centre =
+        lastNear_.exists ? moveAhead(lastNear_.position, aircraft.position, NearMesh::AheadMetres) : aircraft.position;
+    TerrainSampler sampler(store_);
+    nearMesh_.build(sampler, centre, loadingNear_);
+    lastNear_ = {true, aircraft.position, aircraft.altitudeMetres};
+    const Lock lock(mutexMessageAndPos_);
+    terrContinue_ = false;
+    newMeshAvailable_ = true;
+    currentElevation_ = elevation;
+    lost_ = false;
+}
+
+void TerrainPager::buildWide(const Aircraft& aircraft) {
+    const ChartPosition centre =
+        lastWide_.exists ? moveAhead(lastWide_.position, aircraft.position, WideMesh::AheadMetres) : aircraft.position;
+    TerrainSampler sampler(store_);
+    wideMesh_.build(sampler, centre, loadingWide_);
+    lastWide_ = {true, aircraft.position, aircraft.altitudeMetres};
+    const Lock lock(mutexMessageAndPos_);
+    terrWideContinue_ = false;
+    newWideMeshAvailable_ = true;
+}
+
+void TerrainPager::forgetMeshes() {
+    lastNear_.exists = lastWide_.exists = false;
+    const Lock lock(mutexMessageAndPos_);
+    lost_ = true;
+}
+
+void TerrainPager::exchange(const Aircraft& aircraft, News& news) {
+    {
+        const Lock lock(mutexMessageAndPos_);
+        collectRequests();
+        news.points.splice(news.points.end(), finishedPoints_);
+        news.images.splice(news.images.end(), finishedImages_);
+        aircraft_ = aircraft;
+        news.nearMesh = newMeshAvailable_;
+        if (newMeshAvailable_)
+            std::swap(loadingNear_, news.near);
+        terrContinue_ |= newMeshAvailable_;
+        newMeshAvailable_ = false;
+        news.wideMesh = newWideMeshAvailable_;
+        if (newWideMeshAvailable_)
+            std::swap(loadingWide_, news.wide);
+        terrWideContinue_ |= newWideMeshAvailable_;
+        newWideMeshAvailable_ = false;
+        news.currentElevation = currentElevation_;
+        news.lost = lost_;
+    }
+    dropUnwanted(news);
+}
+
+} // namespace skyvane

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "terrain/tree/TerrainStore.h"
+
+namespace skyvane {
+
+/// The heights of MMTerrainNode::getHeight on the root, to the bit, but quicker: as long as places and densities stay
+/// within the cell that the last one ended in, nothing is searched.
+///
+/// Made for one mesh or image; nobody else uses the store meanwhile.
+class TerrainSampler {
+public:
+    explicit TerrainSampler(TerrainStore& store) : store_(store) {}
+
+    float getHeight(const ChartPosition& position, double density, bool interpolate, bool zeroIfMissing) {
+        return toHeight(getRaw(position, density, interpolate), zeroIfMissing);
+    }
+
+private:
+    int16_t getRaw(const ChartPosition& position, double density, bool interpolate);
+    int16_t search(const ChartPosition& place, double density, bool interpolate);
+
+    TerrainStore& store_;
+    bool known_ = false; ///< Whether `last_` answers for all of its chosen cell.
+    bool sea_ = false;
+    MMTerrainNode::Descent last_;
+};
+
+} // namespace skyvane
