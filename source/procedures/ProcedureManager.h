@@ -1,0 +1,111 @@
+#pragma once
+
+#include "core/ini/IniFile.h"
+#include "procedures/HighwayMeshes.h"
+#include "procedures/highway/HighwayBuilder.h"
+#include "procedures/plan/AirportCorridor.h"
+#include "procedures/plan/RouteProfile.h"
+#include "procedures/plan/SavedPlans.h"
+
+#include <irrlicht.h>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace skyvane {
+
+class Context;
+struct FlightReadings;
+
+/// The flight plan of the running program: keeps the current procedure told of the flight, moves on to the next one,
+/// saves plans, and hands the panels the highway in the sky and the ground below the route. The panels hear of every
+/// change. Main thread only; the highway is built by HighwayBuilder's thread.
+class ProcedureManager : public ITerrainPointCallback {
+public:
+    static constexpr int SideViewRows = 256;
+
+    /// The context outlives it and has its panels and sensors; the panels, and the terrain with them, go first.
+    explicit ProcedureManager(Context* context);
+    ~ProcedureManager() override;
+    ProcedureManager(const ProcedureManager&) = delete;
+    ProcedureManager& operator=(const ProcedureManager&) = delete;
+
+    void addProcedureFactory(std::unique_ptr<IProcedureFactory> factory);
+    /// Null for an index out of range.
+    IProcedureFactory* getProcedureFactory(int index) const;
+    int getProcedureFactoryCount() const { return static_cast<int>(factories_.size()); }
+    IProcedureFactory* findProcedureFactorybyType(IProcedure::Type type) const;
+
+    // See FlightPlan. The panels hear of each; paths are made anew by calculateCourseList.
+    void addProcedure(std::unique_ptr<IProcedure> procedure);
+    void addProcedureAfterCurrent(std::unique_ptr<IProcedure> procedure);
+    void addProcedureBeforeCurrent(std::unique_ptr<IProcedure> procedure);
+    void replaceCurrentProcedure(std::unique_ptr<IProcedure> procedure);
+    void deleteCurrentProcedure();
+    void deleteAllProcedures();
+    void setCurrentProcedure(int index);
+    void nextProcedure();
+    void previousProcedure();
+    void moveCurrentProcedureForwards();
+    void moveCurrentProcedureBackwards();
+
+    IProcedure* getCurrentProcedure() { return plan_.getCurrent(); }
+    int getCurrentProcedureIndex() const { return plan_.getCurrentIndex(); }
+    const FlightPlan::Procedures& getProcedures() const { return plan_.getProcedures(); }
+    int getProcedureCount() const { return plan_.getCount(); }
+    bool isProcedureTarget(int chartIndex) { return plan_.isTarget(chartIndex); }
+
+    /// Makes the paths anew from where the aircraft is. False without procedures, and when nobody knows where that is:
+    /// the paths stay then.
+    bool calculateCourseList();
+    /// Every frame. The highway follows at most twice a second, and at once when forced.
+    void Update(bool force);
+
+    /// Stores the plan under that name in the document of saved plans.
+    void insertFlightPlan(const std::string& name);
+    /// The saved plan becomes the plan. False, and the plan stays, without one of that name, or when nothing of it can
+    /// be flown. The pilot hears of what can't be.
+    bool retrieveFlightPlan(const std::string& name);
+    /// False when data/fpl.ini can't be written.
+    bool saveFlightPlans();
+    IniFile& getSavedFlightPlans() { return saved_; }
+
+    /// The width in metres; nothing without charts.
+    std::vector<AirportRecord> findAirportsInCorridor(double width, const AirportKinds& kinds);
+    /// Other charts and terrain are loaded: finds what procedures lead to again.
+    void OnChartChanged();
+
+    /// The highway, around the active mesh's position: x east, y up from sea level, z north, in metres. It holds until
+    /// the panels are told to delete their nodes.
+    irr::scene::IMesh* getActiveMesh() const { return meshes_.getActive(); }
+    const ChartPosition& getActiveMeshPosition() const { return highwayMesh_.centre; }
+
+    /// The ground along the plan, its picture 256 rows high; null while the terrain hasn't answered.
+    irr::video::ITexture* getSideTexture() const { return profile_ ? sideTexture_ : nullptr; }
+    const RouteProfile* getLastPointCall() const { return profile_.get(); }
+    void OnHeightPoints(PointCall& call) override;
+
+private:
+    void notifyChanged();
+    void updateHighway(const FlightReadings& readings, bool force);
+    void warnOfDestination(double altitudeMetres);
+    void requestProfile();
+    void tellLosses(const std::vector<std::string>& losses);
+
+    Context* context_;
+    FlightPlan plan_;
+    ProcedureFactories factories_;
+    IniFile saved_;
+    HighwayBuilder highway_;
+    HighwayMesh highwayMesh_;
+    HighwayMeshes meshes_;
+    bool pathChanged_ = false;
+    unsigned lastUpdateMilliseconds_ = 0;
+    std::optional<int> warnedFeet_; ///< Above the destination.
+    unsigned warnedMilliseconds_ = 0;
+    int sideViewPoints_;
+    irr::video::ITexture* sideTexture_ = nullptr; ///< The driver's.
+    std::unique_ptr<RouteProfile> profile_;
+};
+
+} // namespace skyvane

@@ -1,0 +1,38 @@
+#include "procedures/approach/TrafficPatternApproach.h"
+
+#include "procedures/approach/TrafficCircuit.h"
+#include "procedures/framework/ProcedureKeys.h"
+
+#include <cmath>
+#include <limits>
+
+namespace skyvane {
+
+namespace {
+
+constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double HighestMetres = 100000.0;
+
+} // namespace
+
+void TrafficPatternApproach::setCircuit(bool isLeftTraffic, double altitude) {
+    isLeftTraffic_ = isLeftTraffic;
+    tpAltitude_ = altitude;
+}
+
+CourseList TrafficPatternApproach::calculatePath(const ApproachPath& path, const ApproachStart& start) const {
+    return trafficPatternApproach(path, isLeftTraffic_, tpAltitude_, start);
+}
+
+bool TrafficPatternApproach::readOwnKeys(const ProcedureKeys& keys) {
+    isLeftTraffic_ = keys.flag("isLeftTraffic", true);
+    tpAltitude_ = keys.number("tpAltitude", NoNumber, -HighestMetres, HighestMetres);
+    return !std::isnan(tpAltitude_);
+}
+
+void TrafficPatternApproach::writeOwnKeys(ProcedureKeys& keys) const {
+    keys.setFlag("isLeftTraffic", isLeftTraffic_);
+    keys.setNumber("tpAltitude", tpAltitude_);
+}
+
+} // namespace skyvane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "procedures/approach/IApproach.h"
+
+namespace skyvane {
+
+/// A traffic circuit around the runway, see trafficPatternApproach.
+class TrafficPatternApproach : public IApproach {
+public:
+    static constexpr const char* AppId = "TrafficPatternApproach";
+
+    TrafficPatternApproach(IProcedureHost* host, IProcedureFactory* factory) : IApproach(host, factory) {}
+
+    /// On which side of the landing direction, and how high in metres above mean sea level, the circuit is.
+    void setCircuit(bool isLeftTraffic, double altitude);
+    bool isLeftTraffic() const { return isLeftTraffic_; }
+    double getCircuitAltitude() const { return tpAltitude_; }
+    const char* getAppId() const override { return AppId; }
+
+protected:
+    CourseList calculatePath(const ApproachPath& path, const ApproachStart& start) const override;
+    bool readOwnKeys(const ProcedureKeys& keys) override;
+    void writeOwnKeys(ProcedureKeys& keys) const override;
+
+private:
+    bool isLeftTraffic_ = true;
+    double tpAltitude_ = 0.0;
+};
+
+} // namespace skyvane

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "procedures/framework/GeneralProcedureFactory.h"
+#include "procedures/holding/HoldingProcedure.h"
+
+namespace skyvane {
+
+/// Offers a holding at a fix, a navaid or a mark, or where the aircraft is. The dialog stands above: it prepares the
+/// values, lets the pilot change them, and Create makes the holding of them.
+class HoldingProcedureFactory : public GeneralProcedureFactory {
+public:
+    using GeneralProcedureFactory::GeneralProcedureFactory;
+
+    /// Set in an IndicatedProcedure to "1", it asks for a holding at the current position.
+    static constexpr const char* CurrentPositionParameter = "cpos";
+
+    std::list<IndicatedProcedure> getPossibleProcedures(IChartElement* element, int id) override {
+        return getOnlyProcedure(element, id);
+    }
+    bool areProceduresPossible(IChartElement* element) override;
+    /// Standard values for an element, null for none.
+    void prepare(const IndicatedProcedure& procedure, IChartElement* element);
+    HoldingProcedure::Pattern& getPattern() { return pattern_; }
+    /// Where a holding without an element lies.
+    ChartPosition& getPosition() { return position_; }
+
+    std::unique_ptr<IProcedure> Create() override;
+    std::unique_ptr<IProcedure> CreateFromIni(IChartElementSource* charts, IniFile* document,
+                                              const std::string& section, unsigned index) override;
+    std::string getName() override { return "Holding"; }
+    IProcedure::Type getType() override { return IProcedure::Holding; }
+
+private:
+    double defaultCourse(const IChartElement* element);
+
+    HoldingProcedure::Pattern pattern_;
+    bool atElement_ = false;
+    int chartIndex_ = 0;
+    ChartPosition position_;
+};
+
+} // namespace skyvane
