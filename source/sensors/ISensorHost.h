@@ -2,9 +2,14 @@
 
 #include "core/messages/MessageLevel.h"
 
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace skyvane {
+
+class IConfigOverride;
+class IniFile;
 
 /// What sensors and their manager need of the program around them. `Context` is one; tests bring their own.
 /// Main thread only.
@@ -20,6 +25,8 @@ public:
     virtual void removeMessage(void* owner) = 0;
     /// Where the configuration document lies.
     virtual std::string getConfigPath() = 0;
+    /// Lets the user choose one of the profiles, which changes the document, and saves it then.
+    virtual void chooseProfile(IniFile& document, const std::vector<std::unique_ptr<IConfigOverride>>& profiles) = 0;
 };
 
 } // namespace skyvane

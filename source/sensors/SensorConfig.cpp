@@ -20,6 +20,23 @@ int readNumber(IniFile& ini, const std::string& section, const std::string& key,
     return ini.isAvailable(section, key) ? toInt(ini.get(section, key), fallback) : fallback;
 }
 
+int readNumberWithin(IniFile& ini, const std::string& section, const std::string& key, int least, int largest,
+                     int fallback) {
+    const int number = readNumber(ini, section, key, fallback);
+    return number >= least && number <= largest ? number : fallback;
+}
+
+std::string readText(IniFile& ini, const std::string& section, const std::string& key, const std::string& fallback) {
+    return ini.isAvailable(section, key) ? ini.get(section, key) : fallback;
+}
+
+std::vector<ISensorData::Type> allDataTypes() {
+    std::vector<ISensorData::Type> types;
+    for (int type = 0; type < ISensorData::TypeCount; ++type)
+        types.push_back(static_cast<ISensorData::Type>(type));
+    return types;
+}
+
 std::string sensorSection(int index) {
     return "S" + toText(index);
 }

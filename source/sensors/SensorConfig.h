@@ -1,6 +1,9 @@
 #pragma once
 
+#include "sensors/records/ISensorData.h"
+
 #include <string>
+#include <vector>
 
 namespace skyvane {
 
@@ -12,6 +15,14 @@ class ISensorForwarderFactory;
 
 /// The number of a value; the fallback when there is no such value or it isn't a number.
 int readNumber(IniFile& ini, const std::string& section, const std::string& key, int fallback);
+/// The same, where a number outside least to largest is none.
+int readNumberWithin(IniFile& ini, const std::string& section, const std::string& key, int least, int largest,
+                     int fallback);
+/// The text of a value; the fallback when there is no such value.
+std::string readText(IniFile& ini, const std::string& section, const std::string& key, const std::string& fallback);
+
+/// Every data type, in the order of the numbers.
+std::vector<ISensorData::Type> allDataTypes();
 
 /// The section S<n> of a sensor (n from 1), F<n> of a forwarder (n from 0), and the key D<type> of a default.
 std::string sensorSection(int index);

@@ -6,6 +6,7 @@
 #include "sensors/ISensorFactory.h"
 #include "sensors/ISensorForwarder.h"
 #include "sensors/VerticalSpeedFilter.h"
+#include "sensors/profiles/IConfigOverride.h"
 #include "sensors/records/ISensorDataFactory.h"
 
 #include <array>
@@ -40,9 +41,12 @@ public:
     void addSensorFactory(std::unique_ptr<ISensorFactory> factory);
     void addSensorForwarderFactory(std::unique_ptr<ISensorForwarderFactory> factory);
     void addSensorDataFactory(ISensorData::Type type, std::unique_ptr<ISensorDataFactory> factory);
+    void addSensorConfigOverride(std::unique_ptr<IConfigOverride> profile);
 
-    /// Drops what was loaded before. There are no profiles yet: chooseProfile has no effect.
+    /// Drops what was loaded before. With chooseProfile the user is asked first, which may change the document.
     void loadSensorSettingsFromIni(IniFile* ini, bool chooseProfile);
+    /// The profile screen of the host, which saves the document when a profile was chosen.
+    void chooseSensorConfigOverride(IniFile* ini);
     void unload();
     /// Once a frame.
     void Update();
@@ -59,6 +63,8 @@ public:
     const std::vector<std::unique_ptr<ISensorFactory>>& getSensorFactories() const { return sensorFactories_; }
     ISensorHost* getHost() const { return host_; }
 
+    /// Whether a message box tells when default data gets worse.
+    void setShowPopups(bool on) { showPopups_ = on; }
     /// The level of the last Update over position, attitude, heading and altitude.
     ISensor::WarningLevel getDefaultSensorsWarningLevel() const { return defaultLevel_; }
 
@@ -126,6 +132,7 @@ public:
     int findUsedSensorFactory(IniFile* ini);
 
 private:
+    void load(IniFile* ini);
     void loadSensors(IniFile* ini);
     void loadDefaults(IniFile* ini);
     void loadForwarders(IniFile* ini);
@@ -141,6 +148,7 @@ private:
     ISensorHost* host_;
     std::vector<std::unique_ptr<ISensorFactory>> sensorFactories_;
     std::vector<std::unique_ptr<ISensorForwarderFactory>> forwarderFactories_;
+    std::vector<std::unique_ptr<IConfigOverride>> profiles_;
     std::array<std::unique_ptr<ISensorDataFactory>, ISensorData::TypeCount> dataFactories_;
     std::vector<std::unique_ptr<ISensor>> sensors_; ///< Index 0 is the NullSensor.
     std::array<ISensor*, ISensorData::TypeCount> defaults_{};

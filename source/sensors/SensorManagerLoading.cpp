@@ -20,7 +20,24 @@ Factory* at(const std::vector<std::unique_ptr<Factory>>& factories, int index) {
 
 } // namespace
 
-void SensorManager::loadSensorSettingsFromIni(IniFile* ini, bool) {
+void SensorManager::addSensorConfigOverride(std::unique_ptr<IConfigOverride> profile) {
+    profiles_.push_back(std::move(profile));
+}
+
+void SensorManager::loadSensorSettingsFromIni(IniFile* ini, bool chooseProfile) {
+    if (chooseProfile)
+        chooseSensorConfigOverride(ini);
+    load(ini);
+}
+
+void SensorManager::chooseSensorConfigOverride(IniFile* ini) {
+    // The frames of the screen ask for data: it all comes from the NullSensor.
+    IniFile nothing;
+    load(&nothing);
+    host_->chooseProfile(*ini, profiles_);
+}
+
+void SensorManager::load(IniFile* ini) {
     unload();
     showPopups_ = readNumber(*ini, "", "showPopups", 0) != 0;
     loadSensors(ini);

@@ -8,6 +8,7 @@
 #include "sensors/StandardDataFactories.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -30,6 +31,10 @@ public:
     }
     void removeMessage(void* owner) override { messages.erase(owner); }
     std::string getConfigPath() override { return configPath; }
+    void chooseProfile(IniFile& document, const std::vector<std::unique_ptr<IConfigOverride>>& profiles) override {
+        if (onChoose)
+            onChoose(document, profiles);
+    }
 
     /// The texts that stand, sorted.
     std::vector<std::string> texts() const {
@@ -44,6 +49,7 @@ public:
     std::vector<std::string> boxes;
     std::map<void*, Message> messages;
     std::string configPath;
+    std::function<void(IniFile&, const std::vector<std::unique_ptr<IConfigOverride>>&)> onChoose;
 };
 
 /// A sensor whose records and levels a test writes.

@@ -49,6 +49,13 @@ long ISocket::withRestore(Call call) {
     return count;
 }
 
+/// A target that can't be reached is tried in every frame.
+void ISocket::tellOnce(int errorNumber) {
+    if (errorNumber != toldError_)
+        printSocketError("", errorNumber);
+    toldError_ = errorNumber;
+}
+
 int ISocket::recv(char* buffer, unsigned length, bool blocking) {
     const int flags = MSG_NOSIGNAL | (blocking ? 0 : MSG_DONTWAIT);
     const long count = withRestore([&] { return receiveOnce(buffer, length, flags); });
@@ -56,14 +63,14 @@ int ISocket::recv(char* buffer, unsigned length, bool blocking) {
         return static_cast<int>(count);
     if (isQuiet(errno))
         return 0;
-    printSocketError("", errno);
+    tellOnce(errno);
     return -1;
 }
 
 int ISocket::recvWaiting(char* buffer, unsigned length) {
     const long count = withRestore([&] { return receiveOnce(buffer, length, MSG_NOSIGNAL | MSG_DONTWAIT); });
     if (count < 0 && !isQuiet(errno))
-        printSocketError("", errno);
+        tellOnce(errno);
     return static_cast<int>(count);
 }
 
@@ -73,7 +80,7 @@ int ISocket::send(const char* bytes, unsigned length) {
         return static_cast<int>(count);
     if (isQuiet(errno))
         return 0;
-    printSocketError("", errno);
+    tellOnce(errno);
     return -1;
 }
 

@@ -9,8 +9,8 @@ namespace skyvane {
 ///     for (int n; (n = socket.recvWaiting(buffer, sizeof(buffer))) >= 0;) take(buffer, n);
 ///
 /// A call that fails because the socket lost its connection restores it once and is repeated. Other failures are
-/// printed; nothing raises a signal or an exception. One thread at a time, unless a class says otherwise. Owns the
-/// system's handle.
+/// printed, the same one once; nothing raises a signal or an exception. One thread at a time, unless a class says
+/// otherwise. Owns the system's handle.
 class ISocket {
 public:
     ISocket(const ISocket&) = delete;
@@ -54,10 +54,13 @@ protected:
 private:
     template <class Call>
     long withRestore(Call call);
+    /// Prints a failure unless the one before was the same.
+    void tellOnce(int errorNumber);
 
     int handle_ = -1;
     bool restorable_ = true;     ///< A restore is still worth trying.
     int receiveBufferSize_ = -1; ///< -1 when never set.
+    int toldError_ = 0;          ///< The last failure that was printed.
 };
 
 /// Prints the system's text for an error number on standard output, after a text of one's own.

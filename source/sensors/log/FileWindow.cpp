@@ -1,0 +1,53 @@
+#include "sensors/log/FileWindow.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace skyvane {
+namespace {
+
+constexpr size_t WindowBytes = 65536;
+
+} // namespace
+
+FileWindow::FileWindow(const std::string& path) : handle_(::open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
+    struct stat status {};
+    if (handle_ < 0)
+        return;
+    if (fstat(handle_, &status) == 0 && S_ISREG(status.st_mode)) {
+        size_ = static_cast<uint64_t>(status.st_size);
+    } else {
+        ::close(handle_);
+        handle_ = -1;
+    }
+}
+
+FileWindow::~FileWindow() {
+    if (handle_ >= 0)
+        ::close(handle_);
+}
+
+const uint8_t* FileWindow::slideTo(uint64_t offset, size_t count) {
+    if (offset > size_ || count > size_ - offset)
+        return nullptr;
+    const auto wanted = static_cast<size_t>(std::min<uint64_t>(std::max(WindowBytes, count), size_ - offset));
+    if (wanted > bytes_.size())
+        bytes_.resize(std::max(wanted, WindowBytes));
+    begin_ = offset;
+    filled_ = 0;
+    while (filled_ < wanted) {
+        const ssize_t got =
+            ::pread(handle_, bytes_.data() + filled_, wanted - filled_, static_cast<off_t>(offset + filled_));
+        if (got > 0)
+            filled_ += static_cast<size_t>(got);
+        else if (got == 0 || errno != EINTR)
+            break;
+    }
+    return filled_ >= count ? bytes_.data() : nullptr;
+}
+
+} // namespace skyvane
