@@ -14,7 +14,14 @@ class IPanelFactory;
 class IPanel {
 public:
     /// Presets that maps know how to apply; the numbers are stored.
-    enum OptimizedSettings { OPTIMIZED_DEFAULT, OPTIMIZED_GLIDER, OPTIMIZED_VFR, OPTIMIZED_IFR, OPTIMIZED_IFR_HIGH };
+    enum OptimizedSettings {
+        OPTIMIZED_DEFAULT, ///< What the panels' own settings say.
+        OPTIMIZED_GLIDER,
+        OPTIMIZED_VFR,
+        OPTIMIZED_IFR,
+        OPTIMIZED_IFR_HIGH,
+        OPTIMIZED_NONE ///< No choice was stored; never applied.
+    };
 
     virtual void OnPageChange() = 0;
     virtual void render(irr::core::rect<int> rect) = 0;

@@ -1,13 +1,21 @@
 #include "displays/PanelManager.h"
 
+#include "chart/ExtendedChart.h"
 #include "core/Context.h"
+#include "core/ModalLoop.h"
 #include "core/engine/ShowState.h"
 #include "core/engine/TouchEvents.h"
 #include "core/events/EventReceiver.h"
+#include "core/text/Numbers.h"
 #include "core/time/Time.h"
 #include "displays/drawing/Drawer2D.h"
 #include "displays/panels/MessageBoxView.h"
+#include "displays/panels/OverlayInstruments.h"
 #include "gui/font/FlexibleFont.h"
+#include "gui/hypertext/ManualWindow.h"
+#include "gui/input/InputSystem.h"
+#include "gui/menu/Menu.h"
+#include "terrain/TerrainManager.h"
 
 #include <algorithm>
 
@@ -46,9 +54,8 @@ bool isVisibleAt(const irr::gui::IGUIElement* element, irr::core::vector2d<int> 
 PanelManager::PanelManager(Context* context)
     : context_(context), messageBox_(makeMessageBox(context)),
       targets_(context->getIrrlichtDevice()->getVideoDriver()) {
-    const ScreenMetrics& metrics = context->getScreenMetrics();
-    fullRect_ = irr::core::rect<int>(0, 0, static_cast<int>(metrics.width),
-                                     static_cast<int>(metrics.height) - metrics.buttonHeight);
+    const PanelArea area = panelArea();
+    fullRect_ = irr::core::rect<int>(0, area.top, area.width, area.bottom);
     clearNonMessageYArea();
     // Texts lie over the sprites that were drawn before them.
     Drawer2D* drawer = context->getDrawer();
@@ -64,18 +71,30 @@ void PanelManager::addPanelFactory(std::unique_ptr<IPanelFactory> factory) {
     factories_.push_back(std::move(factory));
 }
 
+IPanelFactory* PanelManager::getPanelFactory(int index) const {
+    const bool known = index >= 0 && index < static_cast<int>(factories_.size());
+    return known ? factories_[static_cast<size_t>(index)].get() : nullptr;
+}
+
 PanelArea PanelManager::panelArea() const {
-    const ScreenMetrics& metrics = context_->getScreenMetrics();
-    return {static_cast<int>(metrics.width), 0, static_cast<int>(metrics.height)};
+    return MenuBar::panelArea(context_->getScreenMetrics());
 }
 
 MessageSpace PanelManager::messageSpace() const {
     const PanelArea area = panelArea();
     const int buttonHeight = context_->getScreenMetrics().buttonHeight;
-    return {area.width, area.bottom - buttonHeight, buttonHeight, claimed_};
+    const InputSystem* input = context_->getInputSystem();
+    const int bottom = input ? std::min(area.bottom, input->getCoveredTop()) : area.bottom;
+    return {area.width, bottom - buttonHeight, buttonHeight, claimed_};
 }
 
 void PanelManager::Render() {
+    if (TerrainManager* terrain = getTerrainManager())
+        terrain->Update();
+    if (manual_)
+        return;
+    if (menu_)
+        menu_->render(fullRect_);
     renderPage();
     renderPageNumber();
     context_->getDrawer()->resetViewPort();
@@ -103,7 +122,14 @@ void PanelManager::renderPageNumber() {
                 true, true);
 }
 
+void PanelManager::renderInMenuPreview() {
+    if (menu_)
+        menu_->renderInMenuPreview();
+}
+
 void PanelManager::RenderAfterGUI() {
+    if (menu_)
+        menu_->renderAfterGUI();
     if (!board_.isEmpty()) {
         if (const MessageBoard::Joined* joined = board_.collect(MilliSecs()))
             setMessage(joined->text, irr::video::SColor(messageBoxColor(joined->level)),
@@ -111,26 +137,35 @@ void PanelManager::RenderAfterGUI() {
     }
     if (!messagesDisabled_)
         messageBox_->render();
+    if (overlays_)
+        overlays_->render();
 }
 
 void PanelManager::renderPagePreview(irr::core::rect<int> rect, int pageOffset) {
     const int page = layout_.pageAt(currentPage_, pageOffset);
-    const PanelArea screen = panelArea();
-    const double scaleX = static_cast<double>(rect.getWidth()) / std::max(1, screen.width);
-    const double scaleY = static_cast<double>(rect.getHeight()) / std::max(1, screen.bottom);
+    const ScreenMetrics& screen = context_->getScreenMetrics();
+    const double scaleX = static_cast<double>(rect.getWidth()) / std::max(1u, screen.width);
+    const double scaleY = static_cast<double>(rect.getHeight()) / std::max(1u, screen.height);
     const auto scaled = [&](irr::core::vector2d<int> point) {
         return rect.UpperLeftCorner +
-               irr::core::vector2d<int>(static_cast<int>(point.X * scaleX), static_cast<int>(point.Y * scaleY));
+               irr::core::vector2d<int>(roundHalfAway(point.X * scaleX), roundHalfAway(point.Y * scaleY));
     };
     for (const LoadedPanel& loaded : panels_) {
-        if (loaded.page == page)
-            loaded.panel->getFactory()->renderPreview(
-                {scaled(loaded.rect.UpperLeftCorner), scaled(loaded.rect.LowerRightCorner)});
+        if (loaded.page != page)
+            continue;
+        irr::core::rect<int> place(scaled(loaded.rect.UpperLeftCorner), scaled(loaded.rect.LowerRightCorner));
+        place.clipAgainst(rect);
+        // A factory knows one panel's settings at a time.
+        IPanelFactory* factory = loaded.panel->getFactory();
+        factory->loadSetupFromIni(&loaded_, loaded.section);
+        factory->renderPreview(place);
     }
 }
 
 bool PanelManager::processEvent(irr::SEvent event) {
-    if (processMessageBoxEvent(event) || processPageKey(event))
+    // The menu's answer may be to load the panels, and itself, anew.
+    if (processMessageBoxEvent(event) || processOverlayEvent(event) || processManualEvent(event) ||
+        (menu_ && !menu_->processEvent(event)) || processPageKey(event))
         return false;
     if (locked_ && isPointer(event))
         return false;
@@ -147,6 +182,38 @@ bool PanelManager::processMessageBoxEvent(const irr::SEvent& event) {
     if (answer == MessageBox::Answer::Dismissed)
         board_.clear();
     return answer != MessageBox::Answer::NotMine;
+}
+
+bool PanelManager::processOverlayEvent(const irr::SEvent& event) {
+    return overlays_ && event.EventType == irr::EET_MOUSE_INPUT_EVENT && overlays_->processMouse(event.MouseInput);
+}
+
+/// While the manual is open everything is its own.
+bool PanelManager::processManualEvent(const irr::SEvent& event) {
+    if (!manual_)
+        return false;
+    if (manual_->isClosedBy(event))
+        closeManual();
+    return true;
+}
+
+void PanelManager::closeManual() {
+    manual_.reset();
+    if (overlays_)
+        overlays_->setManualOpen(false);
+}
+
+void PanelManager::setManualVisible(const std::string& page) {
+    if (!manual_)
+        manual_ = std::make_unique<ManualWindow>(context_, page);
+    if (overlays_)
+        overlays_->setManualOpen(true);
+}
+
+void PanelManager::blockForManualExit() {
+    const auto onEvent = [this](const irr::SEvent& event) { processOverlayEvent(event) || processManualEvent(event); };
+    ModalLoop(*context_->getFrames(), {onEvent}).run([this] { return isManualVisible(); });
+    closeManual();
 }
 
 bool PanelManager::processPageKey(const irr::SEvent& event) {
@@ -195,6 +262,8 @@ void PanelManager::turnPage(int step) {
     clearNonMessageYArea();
     currentPage_ = layout_.pageAt(currentPage_, step);
     notePage();
+    if (menu_)
+        menu_->OnPageChange();
     forEachPanel([](IPanel& panel) { panel.OnPageChange(); });
 }
 
@@ -246,11 +315,37 @@ void PanelManager::removeRequest(irr::video::ITexture* texture, void* owner, int
     targets_.removeRequest(texture, owner, id);
 }
 
+void PanelManager::setAttitudeIndicatorOverlay(bool visible, const irr::core::rect<int>* place) {
+    if (overlays_)
+        overlays_->show(OverlayPlaces::Attitude, visible, place);
+}
+
+void PanelManager::setCompassOverlay(bool visible, const irr::core::rect<int>* place) {
+    if (overlays_)
+        overlays_->show(OverlayPlaces::Compass, visible, place);
+}
+
+irr::scene::IMesh* PanelManager::getMeshHWMapped(const irr::core::string<char>& name) {
+    irr::scene::ISceneManager* scene = context_->getIrrlichtDevice()->getSceneManager();
+    if (irr::scene::IAnimatedMesh* known = scene->getMeshCache()->getMeshByName(name))
+        return known->getMesh(0);
+    irr::scene::IAnimatedMesh* loaded = scene->getMesh(name);
+    irr::scene::IMesh* mesh = loaded ? loaded->getMesh(0) : nullptr;
+    if (!mesh)
+        return nullptr;
+    for (irr::u32 i = 0; i < mesh->getMeshBufferCount(); ++i)
+        mesh->getMeshBuffer(i)->setHardwareMappingHint(irr::scene::EHM_STATIC);
+    mesh->setHardwareMappingHint(irr::scene::EHM_STATIC, irr::scene::EBT_VERTEX_AND_INDEX);
+    return mesh;
+}
+
 void PanelManager::OnChartChanged() {
     forEachPanel([](IPanel& panel) { panel.OnChartChanged(); });
 }
 
 void PanelManager::OnProcedureChanged() {
+    if (menu_)
+        menu_->OnProcedureChanged();
     forEachPanel([](IPanel& panel) { panel.OnProcedureChanged(); });
 }
 
@@ -280,6 +375,22 @@ void PanelManager::OnWideTerrainNodesDelete() {
 
 void PanelManager::OnWideTerrainMeshExchanged() {
     forEachPanel([](IPanel& panel) { panel.OnWideTerrainMeshExchanged(); });
+}
+
+IChart* PanelManager::getChart() const {
+    return chart_.get();
+}
+
+TerrainManager* PanelManager::getTerrainManager() const {
+    return chart_ ? chart_->getTerrainManager() : nullptr;
+}
+
+void PanelManager::OnMustFreeMemory() {
+    if (chart_)
+        chart_->OnMustFreeMemory();
+    context_->getIrrlichtDevice()->getSceneManager()->getMeshCache()->clearUnusedMeshes();
+    if (manual_)
+        manual_->gotoPage(ManualWindow::startPage);
 }
 
 void PanelManager::applyOptimizedSettings(IPanel::OptimizedSettings settings) {

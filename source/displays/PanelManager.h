@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/ini/IniFile.h"
 #include "displays/IPanel.h"
 #include "displays/IPanelFactory.h"
 #include "displays/layout/MessageBoard.h"
@@ -15,16 +16,21 @@
 namespace skyvane {
 
 class Context;
+class ExtendedChart;
 class FlexibleFont;
-class IniFile;
+class IChart;
 class IProgressCallback;
+class ManualWindow;
+class Menu;
 class MessageBoxView;
+class OverlayInstruments;
+class TerrainManager;
 
 /// Owns the panels and their pages, the order in which they are drawn and offered events, the message box, the shared
 /// render targets and the panel font. Main thread only.
 ///
-/// The menu, the chart, the details panel and the overlays join with their own work; until then the panel area is the
-/// whole screen and Page Up and Page Down turn the pages.
+/// Panels share what the menu's bar leaves of the screen; its arrows, Page Up and Page Down turn the pages. The
+/// details panel and the overlays join with their own work.
 class PanelManager {
 public:
     explicit PanelManager(Context* context);
@@ -35,14 +41,18 @@ public:
     /// A null factory keeps the place of a panel to come: sections that name it are skipped.
     void addPanelFactory(std::unique_ptr<IPanelFactory> factory);
     const std::vector<std::unique_ptr<IPanelFactory>>& getPanelFactories() const { return factories_; }
+    /// Null for an index out of the list, and for the place of a panel to come.
+    IPanelFactory* getPanelFactory(int index) const;
 
     void loadFontSettingsFromIni(IniFile* ini);
     void loadPanelSettingsFromIni(IniFile* ini, IProgressCallback* progress, bool reloadChart, bool reloadFonts);
     void unload();
 
     void Render();
+    /// Over the GUI, under the messages.
+    void renderInMenuPreview();
     void RenderAfterGUI();
-    /// The page `pageOffset` away from the current one, as previews, into the rectangle.
+    /// The page `pageOffset` away from the current one, as previews, into the rectangle, which stands for the screen.
     void renderPagePreview(irr::core::rect<int> rect, int pageOffset);
     /// False when the event was consumed.
     bool processEvent(irr::SEvent event);
@@ -78,6 +88,15 @@ public:
     irr::video::ITexture* requestRTT(void* owner, int id, int size);
     void removeRequest(irr::video::ITexture* texture, void* owner, int id);
 
+    /// Instruments over everything else, at a place of the screen; null keeps the place that was given before. A tap on
+    /// one of them minimises both, another brings them back.
+    void setAttitudeIndicatorOverlay(bool visible, const irr::core::rect<int>* place);
+    void setCompassOverlay(bool visible, const irr::core::rect<int>* place);
+
+    /// A mesh of the file, its buffers kept by the driver; null when it can't be read. The engine's cache holds it
+    /// until memory runs short: whoever keeps it grabs it.
+    irr::scene::IMesh* getMeshHWMapped(const irr::core::string<char>& name);
+
     // Notifications, to every panel in list order.
     void OnChartChanged();
     void OnProcedureChanged();
@@ -88,11 +107,21 @@ public:
     void OnTerrainMeshExchanged();
     void OnWideTerrainNodesDelete();
     void OnWideTerrainMeshExchanged();
-    void OnMustFreeMemory() {}
+    /// Gives back what can be loaded again.
+    void OnMustFreeMemory();
 
     void applyOptimizedSettings(IPanel::OptimizedSettings settings);
-    /// To `optimized` of the configuration document; 5 writes an empty text.
-    void writeOptimizedSetting(int settings);
+    /// To `optimized` of the configuration document; OPTIMIZED_NONE writes an empty text. The pilot hears of a failure.
+    void writeOptimizedSetting(IPanel::OptimizedSettings settings);
+    /// The screen on which the pilot arranges the panels, until he is done. "Ok" loads all panels anew, and whatever is
+    /// made with them: who calls this from there touches nothing of its own afterwards.
+    void selectPanelSettings();
+
+    /// Over everything, on that page. The page that is shown stays while the manual is open already.
+    void setManualVisible(const std::string& page = "index.hti");
+    bool isManualVisible() const { return manual_ != nullptr; }
+    /// Frames until the pilot has closed the manual; sensors go on.
+    void blockForManualExit();
 
     bool isMetric() const { return metric_; }
     bool isDrawFPS() const { return drawFps_; }
@@ -100,12 +129,19 @@ public:
     unsigned getIrrelevantAirspaceCount() const { return static_cast<unsigned>(irrelevantAirspaces_.size()); }
     std::string getIrrelevantAirspace(unsigned index) const;
     FlexibleFont* getFlexibleFont() const { return font_; }
+    /// Null before the panels are loaded; each loading makes another one.
+    Menu* getMenu() const { return menu_.get(); }
+    /// Null until panels are loaded, and while it loads itself.
+    IChart* getChart() const;
+    /// The chart's; null without one.
+    TerrainManager* getTerrainManager() const;
 
 private:
     struct LoadedPanel {
         std::unique_ptr<IPanel> panel;
         int page;
         irr::core::rect<int> rect;
+        std::string section; ///< Of the loaded document.
     };
 
     void readSettings(IniFile* ini);
@@ -118,6 +154,9 @@ private:
     void renderPage();
     void renderPageNumber();
     void notePage();
+    bool processOverlayEvent(const irr::SEvent& event);
+    bool processManualEvent(const irr::SEvent& event);
+    void closeManual();
     bool processPageKey(const irr::SEvent& event);
     bool isVisibleGUIElementAt(irr::core::vector2d<int> position);
     bool offerToPanels(const irr::SEvent& event);
@@ -129,8 +168,12 @@ private:
 
     Context* context_;
     std::vector<std::unique_ptr<IPanelFactory>> factories_;
-    std::vector<LoadedPanel> panels_; ///< In section order: drawn first to last, offered events last to first.
+    std::unique_ptr<ExtendedChart> chart_;
+    std::unique_ptr<Menu> menu_;
+    std::unique_ptr<ManualWindow> manual_; ///< While it is open.
+    std::vector<LoadedPanel> panels_;      ///< In section order: drawn first to last, offered events last to first.
     PageLayout layout_;
+    IniFile loaded_; ///< The document that the panels were made from, for their previews.
     int currentPage_ = 0;
     irr::core::rect<int> fullRect_;
     ClaimedYArea claimed_;
@@ -149,6 +192,7 @@ private:
     MessageBoard board_;
     std::unique_ptr<MessageBoxView> messageBox_;
     RenderTargetPool targets_;
+    std::unique_ptr<OverlayInstruments> overlays_; ///< While panels are loaded.
 };
 
 } // namespace skyvane

@@ -1,13 +1,20 @@
+#include "chart/ExtendedChart.h"
 #include "core/Context.h"
 #include "core/IProgressCallback.h"
+#include "core/engine/ShowState.h"
 #include "core/ini/IniFile.h"
 #include "core/ini/SeparatedString.h"
 #include "core/log/Logger.h"
 #include "core/text/Numbers.h"
 #include "displays/PanelManager.h"
 #include "displays/panels/MessageBoxView.h"
+#include "displays/panels/OverlayInstruments.h"
+#include "displays/setup/PanelSetupScreen.h"
 #include "gui/font/FlexibleFont.h"
 #include "gui/font/LoadFFont.h"
+#include "gui/hypertext/ManualWindow.h"
+#include "gui/menu/Menu.h"
+#include "procedures/ProcedureManager.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,7 +24,10 @@ namespace skyvane {
 namespace {
 
 const char* const standardFont = "Ubuntu (Regular)";
-constexpr int presetCount = 5;
+constexpr int saveTroubleMilliseconds = 10000;
+constexpr int elementCacheSize = 100000;
+/// Tiles of each type of background.
+constexpr int backgroundCacheSize = 80;
 
 /// Without creating the key.
 std::string valueOf(IniFile* ini, const char* key) {
@@ -68,15 +78,21 @@ void PanelManager::useFont(FlexibleFont* font, IniFile* ini) {
     messageBox_->forgetLayout();
 }
 
-void PanelManager::loadPanelSettingsFromIni(IniFile* ini, IProgressCallback* progress, bool, bool reloadFonts) {
+void PanelManager::loadPanelSettingsFromIni(IniFile* ini, IProgressCallback* progress, bool reloadChart,
+                                            bool reloadFonts) {
     fullScreenPanel_ = nullptr;
     readSettings(ini);
     if (reloadFonts)
         loadFontSettingsFromIni(ini);
     advance(progress);
+    chart_.reset();
+    chart_ = std::make_unique<ExtendedChart>(context_, reloadChart, progress, elementCacheSize, backgroundCacheSize);
+    context_->getProcedureManager()->OnChartChanged();
     advance(progress);
+    menu_ = std::make_unique<Menu>(context_, toBool(valueOf(ini, "useColoredButtons")));
     loadPanels(ini);
     advance(progress);
+    overlays_ = std::make_unique<OverlayInstruments>(context_);
     applyStoredPreset(ini);
 }
 
@@ -95,11 +111,11 @@ void PanelManager::readSettings(IniFile* ini) {
 }
 
 void PanelManager::loadPanels(IniFile* ini) {
+    loaded_ = *ini;
     layout_ = PageLayout::read(*ini, panelArea(), context_->isPortrait());
     panels_.reserve(panels_.size() + layout_.panels.size());
     for (const PageLayout::Panel& place : layout_.panels) {
-        const bool known = place.factoryIndex >= 0 && place.factoryIndex < static_cast<int>(factories_.size());
-        IPanelFactory* factory = known ? factories_[static_cast<size_t>(place.factoryIndex)].get() : nullptr;
+        IPanelFactory* factory = getPanelFactory(place.factoryIndex);
         if (!factory)
             continue;
         factory->loadSetupFromIni(ini, place.section);
@@ -107,7 +123,7 @@ void PanelManager::loadPanels(IniFile* ini) {
         if (!panel)
             continue;
         panel->setFactory(factory);
-        panels_.push_back({std::move(panel), place.page, place.rect});
+        panels_.push_back({std::move(panel), place.page, place.rect, place.section});
     }
     currentPage_ = std::min(currentPage_, layout_.pageCount - 1);
     notePage();
@@ -115,26 +131,46 @@ void PanelManager::loadPanels(IniFile* ini) {
 
 void PanelManager::applyStoredPreset(IniFile* ini) {
     const int preset = toInt(valueOf(ini, "optimized"), -1);
-    if (preset >= 0 && preset < presetCount)
+    if (preset >= 0 && preset < IPanel::OPTIMIZED_NONE)
         applyOptimizedSettings(static_cast<IPanel::OptimizedSettings>(preset));
+    else
+        menu_->forceShowOptimizedSettings(true);
 }
 
 void PanelManager::unload() {
+    manual_.reset();
     context_->getIrrlichtDevice()->getGUIEnvironment()->clear();
     fullScreenPanel_ = nullptr;
     panels_.clear();
+    menu_.reset();
     context_->getIrrlichtDevice()->getGUIEnvironment()->clear();
+    chart_.reset();
+    overlays_.reset();
     layout_ = PageLayout();
+    loaded_ = IniFile();
     currentPage_ = 0;
     clearNonMessageYArea();
 }
 
-void PanelManager::writeOptimizedSetting(int settings) {
-    const std::string path = context_->getPath("data/config.ini");
+void PanelManager::selectPanelSettings() {
+    hideAllPanelGUI();
+    IniFile config(context_->getConfigPath());
+    if (!PanelSetupScreen(context_, config, panelArea()).run())
+        return;
+    showState(context_->getIrrlichtDevice(), L"Please wait...");
+    unload();
+    loadPanelSettingsFromIni(&config, nullptr, false, true);
+}
+
+void PanelManager::writeOptimizedSetting(IPanel::OptimizedSettings settings) {
+    const std::string path = context_->getConfigPath();
     IniFile config(path);
-    config.set("", "optimized", settings >= 0 && settings < presetCount ? toText(settings) : std::string());
-    if (!config.Save(path))
-        logText("The chosen preset could not be saved to " + path + "\n");
+    config.set("", "optimized", settings < IPanel::OPTIMIZED_NONE ? toText(settings) : std::string());
+    if (config.Save(path))
+        return;
+    logText("The chosen preset could not be saved to " + path + "\n");
+    setMessage(this, "The choice could not be saved and ends with this flight.", MESSAGE_YELLOW,
+               saveTroubleMilliseconds);
 }
 
 } // namespace skyvane

@@ -6,8 +6,10 @@
 #include "core/time/Time.h"
 #include "displays/drawing/Drawer2D.h"
 #include "gui/font/FlexibleFont.h"
+#include "gui/menu/MenuBar.h"
 #include "support/GlDevice.h"
 #include "support/SourceFolder.h"
+#include "support/StartAnswers.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -85,7 +87,7 @@ protected:
         char folder[] = "/tmp/skyvane_panels_XXXXXX";
         ASSERT_TRUE(mkdtemp(folder));
         home = folder;
-        setenv("SKYVANE_DATA_ROOT", folder, 1); // a first start asks nothing then
+        answerStartQuestions(folder);
         std::filesystem::create_directory_symlink(sourceFolder() + "media", home + "/media");
         context = std::make_unique<Context>(gl.device(), (home + "/skyvane").c_str(), false);
         panels = context->getPanelManager();
@@ -136,6 +138,8 @@ protected:
         event.MouseInput.Y = y;
         return panels->processEvent(event);
     }
+    /// Below lies the menu's bar.
+    int panelsBottom() { return MenuBar::panelArea(context->getScreenMetrics()).bottom; }
     std::vector<std::string> takeCalls() { return std::exchange(calls, {}); }
 
     ManualClock clock;
@@ -159,7 +163,7 @@ TEST_F(PanelManagerTest, laterPanelsDrawOnTopAndAreAskedFirst) {
     EXPECT_EQ(gl.pixel(80, 100), colors['0' % 3]);
     EXPECT_EQ(gl.pixel(240, 100), colors['1' % 3]);
     EXPECT_EQ(gl.pixel(159, 0), colors['0' % 3]);
-    EXPECT_EQ(gl.pixel(160, 199), colors['1' % 3]);
+    EXPECT_EQ(gl.pixel(160, panelsBottom() - 1), colors['1' % 3]);
 
     EXPECT_TRUE(mouse(irr::EMIE_LMOUSE_PRESSED_DOWN, 10, 10));
     EXPECT_EQ(takeCalls(), (Calls{"P1 event", "P0 event"}));
@@ -276,11 +280,12 @@ TEST_F(PanelManagerTest, aKeyedMessageStandsUntilItIsRemovedOrDismissed) {
 TEST_F(PanelManagerTest, disabledMessagesNeitherDrawNorTakeTheMouse) {
     addPanel("0", 0, 0, 1, 1);
     ini.set("", "messagesDisabled", "1");
+    ini.set("", "optimized", "0");
     load();
     int owner = 0;
     panels->setMessage(&owner, "GPS: no signal", MESSAGE_RED, -1);
     frame();
-    for (int y = 0; y < height; y += 5) {
+    for (int y = 0; y < panelsBottom(); y += 5) {
         EXPECT_EQ(gl.pixel(160, y), colors['0' % 3]);
         EXPECT_TRUE(mouse(irr::EMIE_LMOUSE_PRESSED_DOWN, 160, y));
     }
@@ -330,7 +335,9 @@ TEST_F(PanelManagerTest, previewsAreThePageAtAnotherSize) {
     load();
     panels->renderPagePreview(rect<int>(100, 100, 260, 200), -1);
     ASSERT_EQ(factory->previews.size(), 1u);
-    EXPECT_EQ(factory->previews[0], rect<int>(180, 100, 260, 150));
+    // The menu's bar keeps its share of the picture.
+    const rect<int> onScreen = panelRect({0.5, 0, 1, 0.5}, MenuBar::panelArea(context->getScreenMetrics()));
+    EXPECT_EQ(factory->previews[0], rect<int>(180, 100, 260, 100 + (onScreen.LowerRightCorner.Y + 1) / 2));
     panels->renderPagePreview(rect<int>(100, 100, 260, 200), 0);
     EXPECT_EQ(factory->previews.size(), 1u);
 }

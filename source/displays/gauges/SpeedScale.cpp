@@ -1,7 +1,10 @@
 #include "displays/gauges/SpeedScale.h"
 
+#include "procedures/aircraft/profiles/Aircraft.h"
+
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace skyvane {
 
@@ -9,6 +12,9 @@ namespace {
 
 constexpr double largestShownAngle = 350.0;
 constexpr double largestSpeed = 2000.0;
+constexpr double SpeedScale::*speeds[] = {&SpeedScale::start,    &SpeedScale::end,        &SpeedScale::whiteStart,
+                                          &SpeedScale::whiteEnd, &SpeedScale::greenStart, &SpeedScale::greenEnd,
+                                          &SpeedScale::red,      &SpeedScale::blue};
 
 double nextTenAbove(double value) {
     return 10.0 * (std::trunc(value / 10.0) + 1.0);
@@ -20,11 +26,30 @@ double bounded(double value) {
 
 } // namespace
 
+SpeedScale SpeedScale::of(const Aircraft& aircraft) {
+    SpeedScale scale;
+    const int lowest = aircraft.Vso >= 0 ? aircraft.Vso : std::max(aircraft.Vs, 0);
+    const int highest = std::max({aircraft.Vne, aircraft.Vno, aircraft.Vfe});
+    scale.start = 10.0 * std::trunc(lowest * 0.7 / 10.0 + 0.5);
+    scale.end = 10.0 * std::trunc(highest / 10.0 + 0.5);
+    scale.whiteStart = aircraft.Vso;
+    scale.whiteEnd = aircraft.Vfe;
+    scale.greenStart = aircraft.Vs;
+    scale.greenEnd = aircraft.Vno;
+    scale.red = aircraft.Vne;
+    scale.blue = aircraft.Vsse;
+    return scale;
+}
+
+bool SpeedScale::operator==(const SpeedScale& other) const {
+    const auto same = [&](double SpeedScale::*speed) { return this->*speed == other.*speed; };
+    return std::all_of(std::begin(speeds), std::end(speeds), same) && speedFallOff == other.speedFallOff &&
+           deltaDesc == other.deltaDesc;
+}
+
 SpeedScale SpeedScale::toMetric() const {
     SpeedScale metric = *this;
-    for (double SpeedScale::*speed :
-         {&SpeedScale::start, &SpeedScale::end, &SpeedScale::whiteStart, &SpeedScale::whiteEnd, &SpeedScale::greenStart,
-          &SpeedScale::greenEnd, &SpeedScale::red, &SpeedScale::blue})
+    for (double SpeedScale::*speed : speeds)
         metric.*speed *= kilometresPerHourPerKnot;
     metric.start = nextTenAbove(metric.start);
     metric.end = nextTenAbove(metric.end);

@@ -6,6 +6,8 @@
 
 namespace skyvane {
 
+class Aircraft;
+
 constexpr double kilometresPerHourPerKnot = 1.8519999984;
 
 /// The speeds that a speed dial marks, knots, or km/h after toMetric().
@@ -20,6 +22,10 @@ struct SpeedScale {
     double blue = -1.0;        ///< Best single-engine climb; not drawn unless greater than 0.
     double speedFallOff = 1.0; ///< Exponent of the scale.
     int deltaDesc = 20;        ///< Step of the numbers.
+
+    /// The scale and the marks of an aircraft. A range with an end that the aircraft lacks isn't there.
+    static SpeedScale of(const Aircraft& aircraft);
+    bool operator==(const SpeedScale& other) const;
 
     /// All speeds in km/h; start and end become the next tens above.
     SpeedScale toMetric() const;

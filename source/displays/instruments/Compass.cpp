@@ -3,7 +3,7 @@
 #include "core/Context.h"
 #include "displays/drawing/Drawer2D.h"
 #include "displays/gauges/Needles.h"
-#include "procedures/IProcedure.h"
+#include "procedures/framework/IProcedure.h"
 #include "sensors/records/GPS_Data.h"
 #include "sensors/records/Heading_Data.h"
 

@@ -10,19 +10,21 @@ namespace skyvane {
 
 class Context;
 
-/// What the factories of the round dials have in common: a preview image, and no settings unless one adds some.
+/// What the factories of the instruments have in common: a preview image, and options where a schema names some.
 class DialFactory : public IPanelFactory {
 public:
     void loadSetupFromIni(IniFile*, std::string) override {}
-    /// Has nothing to ask; writes that the panel takes the default sensor.
+    /// Asks for the options of the schema, and writes that the panel takes the default sensor.
     bool setup(IniFile* ini, std::string section) override;
+    bool hasOptions() const override { return options_ != nullptr; }
     std::string getName() override { return name_; }
     /// The preview image, or nothing without one.
     void renderPreview(irr::core::rect<int> rect) override;
 
 protected:
-    DialFactory(Context* context, const char* name, const char* previewPath)
-        : context_(context), name_(name), previewPath_(previewPath) {}
+    /// `options` is a schema of an IniEditor; null without options.
+    DialFactory(Context* context, const char* name, const char* previewPath, const char* options = nullptr)
+        : context_(context), name_(name), previewPath_(previewPath), options_(options) {}
 
     template <class Panel, class... Settings>
     std::unique_ptr<IPanel> make(const Settings&... settings) {
@@ -36,9 +38,12 @@ protected:
     virtual irr::core::rect<int> previewRect(const irr::core::rect<int>& rect) const;
 
 private:
+    bool askOptions(IniFile& ini, const std::string& section);
+
     Context* context_;
     const char* name_;
     const char* previewPath_;
+    const char* options_;
     bool previewLoaded_ = false;
     PanelTexture preview_;
 };

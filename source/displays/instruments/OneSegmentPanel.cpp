@@ -5,7 +5,7 @@
 #include "displays/PanelManager.h"
 #include "displays/drawing/Drawer2D.h"
 #include "displays/gauges/SegmentFormat.h"
-#include "procedures/IProcedure.h"
+#include "procedures/framework/IProcedure.h"
 
 #include <algorithm>
 #include <iostream>

@@ -31,13 +31,6 @@ void OneSegmentPanelFactory::loadSetupFromIni(IniFile* ini, std::string section)
     color_ = irr::video::SColor(readColor(*ini, section, "Color", standardColor));
 }
 
-bool OneSegmentPanelFactory::setup(IniFile* ini, std::string section) {
-    loadSetupFromIni(ini, section);
-    ini->set(section, "Type", nameOf(type_));
-    writeColor(*ini, section, "Color", color_.color);
-    return DialFactory::setup(ini, section);
-}
-
 std::unique_ptr<IPanel> OneSegmentPanelFactory::Create() {
     return make<OneSegmentPanel>(color_, type_);
 }

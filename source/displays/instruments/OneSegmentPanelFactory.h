@@ -2,6 +2,7 @@
 
 #include "displays/gauges/SegmentType.h"
 #include "displays/instruments/DialFactory.h"
+#include "displays/instruments/OptionSchemas.h"
 #include "displays/instruments/SegmentBackground.h"
 
 #include <irrlicht.h>
@@ -10,10 +11,9 @@ namespace skyvane {
 
 class OneSegmentPanelFactory : public DialFactory {
 public:
-    explicit OneSegmentPanelFactory(Context* context) : DialFactory(context, "OneSegmentPanel", "") {}
+    explicit OneSegmentPanelFactory(Context* context)
+        : DialFactory(context, "OneSegmentPanel", "", oneSegmentPanelOptions) {}
     void loadSetupFromIni(IniFile* ini, std::string section) override;
-    /// Writes type and colour, those that stand or else the first type and dark blue.
-    bool setup(IniFile* ini, std::string section) override;
     std::unique_ptr<IPanel> Create() override;
     /// A field with its label and figures that nobody takes for a value.
     void renderPreview(irr::core::rect<int> rect) override;

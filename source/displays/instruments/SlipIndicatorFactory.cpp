@@ -15,14 +15,6 @@ void SlipIndicatorFactory::loadSetupFromIni(IniFile* ini, std::string section) {
     style_.text = irr::video::SColor(readColor(*ini, section, "Color", standard.text.color));
 }
 
-bool SlipIndicatorFactory::setup(IniFile* ini, std::string section) {
-    loadSetupFromIni(ini, section);
-    ini->set(section, "drawText", style_.drawText ? "1" : "0");
-    writeColor(*ini, section, "pfdColor", style_.background.color);
-    writeColor(*ini, section, "Color", style_.text.color);
-    return DialFactory::setup(ini, section);
-}
-
 irr::core::rect<int> SlipIndicatorFactory::previewRect(const irr::core::rect<int>& rect) const {
     return makeXic(rect, slipAspect);
 }

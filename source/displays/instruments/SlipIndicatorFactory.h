@@ -1,6 +1,7 @@
 #pragma once
 
 #include "displays/instruments/DialFactory.h"
+#include "displays/instruments/OptionSchemas.h"
 #include "displays/instruments/SlipIndicator.h"
 
 namespace skyvane {
@@ -8,9 +9,8 @@ namespace skyvane {
 class SlipIndicatorFactory : public DialFactory {
 public:
     explicit SlipIndicatorFactory(Context* context)
-        : DialFactory(context, "Slip/Skid Indicator", "media/slip_preview.png") {}
+        : DialFactory(context, "Slip/Skid Indicator", "media/slip_preview.png", slipIndicatorOptions) {}
     void loadSetupFromIni(IniFile* ini, std::string section) override;
-    bool setup(IniFile* ini, std::string section) override;
     std::unique_ptr<IPanel> Create() override { return make<SlipIndicator>(style_); }
 
 protected:

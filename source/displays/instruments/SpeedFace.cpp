@@ -51,10 +51,11 @@ private:
 } // namespace
 
 void SpeedFace::prepare(int size, bool metric, const SpeedScale& scale, const Images& images, FlexibleFont* font) {
-    if (target_ && size == size_ && metric == metric_ && font == font_)
+    if (target_ && size == size_ && metric == metric_ && font == font_ && scale == scale_)
         return;
     size_ = size;
     metric_ = metric;
+    scale_ = scale;
     font_ = font;
     irr::video::IVideoDriver* driver = drawer_->getDevice()->getVideoDriver();
     static unsigned counter = 0;
@@ -92,6 +93,8 @@ void SpeedFace::renderGauge(int size, const SpeedScale& scale, const Images& ima
 
 void SpeedFace::drawArcs(double radius, const SpeedScale& scale, const PanelTexture& plain) {
     const auto arc = [&](double from, double to, double width, SColor color) {
+        if (from < 0.0 || to <= from)
+            return;
         drawer_->setColor(color);
         const Drawer2D::Position centre(static_cast<int>(radius), static_cast<int>(radius));
         drawer_->DrawArc(plain.get(), centre, static_cast<float>(radius * outerEnd),

@@ -41,6 +41,7 @@ private:
     PanelTexture target_;
     int size_ = 0;
     bool metric_ = false;
+    SpeedScale scale_;
     FlexibleFont* font_ = nullptr;
 };
 

@@ -3,6 +3,7 @@
 #include "core/Context.h"
 #include "displays/PanelManager.h"
 #include "displays/drawing/Drawer2D.h"
+#include "procedures/aircraft/AircraftManager.h"
 #include "sensors/records/AirSpeed_Data.h"
 #include "sensors/records/GroundSpeed_Data.h"
 
@@ -11,11 +12,10 @@
 
 namespace skyvane {
 
-SpeedIndicator::SpeedIndicator(Context* context, const SpeedScale& scale)
+SpeedIndicator::SpeedIndicator(Context* context)
     : RoundDial(context), ground_(loadImage("media/speed_bg.png")), line_(loadImage("media/roundline.png")),
       plain_(loadImage("media/white.png")), needle_(loadImage("media/alt_100.png")),
-      ring_(loadOrnament("media/gauge_back_back.png")), face_(context->getDrawer()), knots_(makeDrawable(scale)),
-      kilometresPerHour_(makeDrawable(scale.toMetric())) {}
+      ring_(loadOrnament("media/gauge_back_back.png")), face_(context->getDrawer()) {}
 
 DialEvidence SpeedIndicator::readValue() {
     DialEvidence evidence;
@@ -30,11 +30,18 @@ DialEvidence SpeedIndicator::readValue() {
     return evidence;
 }
 
+/// The pilot may choose another aircraft at any time.
+void SpeedIndicator::updateScale() {
+    const SpeedScale knots = SpeedScale::of(context_->getAircraftManager()->getCurrentAircraft());
+    scale_ = makeDrawable(metric_ ? knots.toMetric() : knots);
+}
+
 void SpeedIndicator::prepare(const DialFrame& frame) {
+    updateScale();
     // Twice the size on the glass smooths the edges; the largest ones are smooth enough.
     constexpr int largestFace = 1400;
-    face_.prepare(std::min(2 * frame.faceSize, std::max(frame.faceSize, largestFace)), metric_,
-                  metric_ ? kilometresPerHour_ : knots_, {&ground_, &line_, &plain_}, context_->getFlexibleFont());
+    face_.prepare(std::min(2 * frame.faceSize, std::max(frame.faceSize, largestFace)), metric_, scale_,
+                  {&ground_, &line_, &plain_}, context_->getFlexibleFont());
 }
 
 void SpeedIndicator::drawLayers(const DialFrame& frame, DialFlag flag) {
@@ -45,7 +52,7 @@ void SpeedIndicator::drawLayers(const DialFrame& frame, DialFlag flag) {
     drawer_->setMaterialType(irr::video::EMT_ONETEXTURE_BLEND);
     drawer_->setColor(scaleColor(flag));
     if (isValueShown(flag))
-        drawHand(needle_, frame, -(metric_ ? kilometresPerHour_ : knots_).shownAngleOf(speed_));
+        drawHand(needle_, frame, -scale_.shownAngleOf(speed_));
     drawer_->setColor(drawer_->getDevice()->getGUIEnvironment()->getSkin()->getColor(irr::gui::EGDC_3D_HIGH_LIGHT));
     drawSquare(ring_, frame);
 }

@@ -7,11 +7,11 @@
 
 namespace skyvane {
 
-/// Air speed, or ground speed, which then stands on the dial as a word; knots, or km/h when the panels are metric.
+/// Air speed, or ground speed, which then stands on the dial as a word; knots, or km/h when the panels are metric. The
+/// scale and its marks are those of the current aircraft.
 class SpeedIndicator : public RoundDial {
 public:
-    /// `scale` in knots.
-    explicit SpeedIndicator(Context* context, const SpeedScale& scale = SpeedScale());
+    explicit SpeedIndicator(Context* context);
     std::string getName() override { return "Ground/AirSpeedIndicator"; }
 
 protected:
@@ -22,6 +22,8 @@ protected:
     const wchar_t* failureName() const override { return groundSpeedShown_ ? L"GS" : L"IAS"; }
 
 private:
+    void updateScale();
+
     PanelTexture ground_;
     PanelTexture line_;
     PanelTexture plain_;
@@ -29,8 +31,7 @@ private:
     PanelTexture ring_;
     SpeedFace face_;
     DialText word_;
-    SpeedScale knots_;
-    SpeedScale kilometresPerHour_;
+    SpeedScale scale_; ///< Of the current aircraft, in the unit of the dial.
     bool metric_ = false;
     bool groundSpeedShown_ = false;
     double speed_ = 0.0; ///< In the unit of the dial.

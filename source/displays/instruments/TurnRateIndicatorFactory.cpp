@@ -10,9 +10,4 @@ void TurnRateIndicatorFactory::loadSetupFromIni(IniFile* ini, std::string sectio
     drawText_ = toBool(readValue(*ini, section, "DrawText", ""), true);
 }
 
-bool TurnRateIndicatorFactory::setup(IniFile* ini, std::string section) {
-    ini->set(section, "DrawText", readValue(*ini, section, "DrawText", "1"));
-    return DialFactory::setup(ini, section);
-}
-
 } // namespace skyvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "displays/instruments/DialFactory.h"
+#include "displays/instruments/OptionSchemas.h"
 #include "displays/instruments/TurnRateIndicator.h"
 
 namespace skyvane {
@@ -8,9 +9,8 @@ namespace skyvane {
 class TurnRateIndicatorFactory : public DialFactory {
 public:
     explicit TurnRateIndicatorFactory(Context* context)
-        : DialFactory(context, "TurnCoordinator", "media/turn_preview.png") {}
+        : DialFactory(context, "TurnCoordinator", "media/turn_preview.png", turnRateIndicatorOptions) {}
     void loadSetupFromIni(IniFile* ini, std::string section) override;
-    bool setup(IniFile* ini, std::string section) override;
     std::unique_ptr<IPanel> Create() override { return make<TurnRateIndicator>(drawText_); }
 
 private:

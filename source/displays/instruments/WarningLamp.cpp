@@ -3,7 +3,7 @@
 #include "core/Context.h"
 #include "core/geometry/Rectangles.h"
 #include "displays/drawing/Drawer2D.h"
-#include "procedures/IProcedure.h"
+#include "procedures/framework/IProcedure.h"
 #include "sensors/SensorManager.h"
 
 namespace skyvane {

@@ -9,12 +9,6 @@ void WarningLampFactory::loadSetupFromIni(IniFile* ini, std::string section) {
     type_ = parseWarningType(readValue(*ini, section, "Type", ""));
 }
 
-bool WarningLampFactory::setup(IniFile* ini, std::string section) {
-    loadSetupFromIni(ini, section);
-    ini->set(section, "Type", nameOf(type_));
-    return DialFactory::setup(ini, section);
-}
-
 void WarningLampFactory::renderPreview(irr::core::rect<int> rect) {
     const auto found = previews_.try_emplace(type_, context(), type_).first;
     found->second.draw(rect, type_ == WarningType::DEFAULTSENSORS ? sensorLampColor(ISensor::GOOD)

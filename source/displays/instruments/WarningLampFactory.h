@@ -1,6 +1,7 @@
 #pragma once
 
 #include "displays/instruments/DialFactory.h"
+#include "displays/instruments/OptionSchemas.h"
 #include "displays/instruments/WarningLamp.h"
 
 #include <map>
@@ -9,9 +10,8 @@ namespace skyvane {
 
 class WarningLampFactory : public DialFactory {
 public:
-    explicit WarningLampFactory(Context* context) : DialFactory(context, "WarningLamp", "") {}
+    explicit WarningLampFactory(Context* context) : DialFactory(context, "WarningLamp", "", warningLampOptions) {}
     void loadSetupFromIni(IniFile* ini, std::string section) override;
-    bool setup(IniFile* ini, std::string section) override;
     std::unique_ptr<IPanel> Create() override { return make<WarningLamp>(type_); }
     void renderPreview(irr::core::rect<int> rect) override;
 

@@ -19,17 +19,12 @@ int pageOf(IniFile& ini, const std::string& section) {
 
 template <class Visit>
 void forEachPanelSection(IniFile& ini, Visit visit) {
-    const int count = std::min(toInt(valueOf(ini, "", "PanelCount")), PageLayout::maximumPanels);
+    const int count = readPanelCount(ini);
     for (int i = 0; i < count; ++i) {
         const std::string section = "P" + toText(i);
         if (ini.isSectionAvailable(section))
             visit(section);
     }
-}
-
-PanelFractions fractionsOf(IniFile& ini, const std::string& section) {
-    const auto number = [&](const char* key) { return toDouble(valueOf(ini, section, key)); };
-    return {number("ViewPortSX"), number("ViewPortSY"), number("ViewPortTX"), number("ViewPortTY")};
 }
 
 /// Truncated; a hundred screens off is as good as any number beyond. NaN is 0.
@@ -39,6 +34,18 @@ int pixels(double fraction, int extent, int offset) {
 }
 
 } // namespace
+
+PanelFractions readFractions(IniFile& ini, const std::string& section) {
+    const auto number = [&](const char* key) { return toDouble(valueOf(ini, section, key)); };
+    return {number("ViewPortSX"), number("ViewPortSY"), number("ViewPortTX"), number("ViewPortTY")};
+}
+
+void writeFractions(IniFile& ini, const std::string& section, const PanelFractions& fractions) {
+    ini.set(section, "ViewPortSX", toText(fractions.left));
+    ini.set(section, "ViewPortSY", toText(fractions.top));
+    ini.set(section, "ViewPortTX", toText(fractions.right));
+    ini.set(section, "ViewPortTY", toText(fractions.bottom));
+}
 
 irr::core::rect<int> panelRect(const PanelFractions& fractions, const PanelArea& area) {
     const int height = area.bottom - area.top;
@@ -56,7 +63,7 @@ PageLayout PageLayout::read(IniFile& ini, const PanelArea& area, bool portrait) 
         if (toBool(valueOf(ini, section, "Portrait")) != portrait)
             return;
         layout.panels.push_back({section, toInt(valueOf(ini, section, "FactoryIndex"), -1), page,
-                                 panelRect(fractionsOf(ini, section), area)});
+                                 panelRect(readFractions(ini, section), area)});
     });
     return layout;
 }
@@ -64,6 +71,11 @@ PageLayout PageLayout::read(IniFile& ini, const PanelArea& area, bool portrait) 
 int PageLayout::pageAt(int page, int steps) const {
     const int moved = (page + steps % pageCount) % pageCount;
     return moved < 0 ? moved + pageCount : moved;
+}
+
+int readPanelCount(IniFile& ini) {
+    return static_cast<int>(
+        std::clamp(toDouble(valueOf(ini, "", "PanelCount")), 0.0, static_cast<double>(PageLayout::maximumPanels)));
 }
 
 int calcPageCountFromIni(IniFile& ini) {

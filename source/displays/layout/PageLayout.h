@@ -28,6 +28,10 @@ struct PanelFractions {
 /// limited, so that any numbers give a rectangle that can be computed with.
 irr::core::rect<int> panelRect(const PanelFractions& fractions, const PanelArea& area);
 
+/// The rectangle of a panel's section; a number that is missing, or none, is 0.
+PanelFractions readFractions(IniFile& ini, const std::string& section);
+void writeFractions(IniFile& ini, const std::string& section, const PanelFractions& fractions);
+
 /// The pages of a configuration document: its sections "P0", "P1" and so on, with the layout of one orientation.
 ///
 /// The document may hold anything: missing sections are passed over, counts and page numbers are limited.
@@ -50,6 +54,9 @@ struct PageLayout {
     /// The page that many steps away, with wrap round at both ends.
     int pageAt(int page, int steps) const;
 };
+
+/// `PanelCount`, within 0 and the maximum; a number beyond every integer is many, not none.
+int readPanelCount(IniFile& ini);
 
 /// 1 when `PanelCount` is below 1, otherwise the largest `Page` of all sections plus 1, at least 1.
 int calcPageCountFromIni(IniFile& ini);

@@ -96,6 +96,18 @@ void AggregateGUIElement::scrolled() {
     updateSubElementsPosition(scroll_.getOffset());
 }
 
+void AggregateGUIElement::scrollTo(const irr::gui::IGUIElement* element) {
+    if (!options_.scrollable)
+        return;
+    const irr::core::rect<irr::s32> place = element->getAbsolutePosition();
+    const auto axis = [this](const irr::core::position2di& at) { return options_.horizontal ? at.X : at.Y; };
+    const int before = axis(AbsoluteRect.UpperLeftCorner) - axis(place.UpperLeftCorner);
+    const int behind = axis(AbsoluteRect.LowerRightCorner) - axis(place.LowerRightCorner);
+    if (before > 0 || behind < 0)
+        scroll_.moveBy(before > 0 ? before : behind);
+    scrolled();
+}
+
 void AggregateGUIElement::setScrollShare(float share) {
     scroll_.setShare(share);
     scrolled();

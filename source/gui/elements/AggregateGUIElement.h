@@ -52,6 +52,10 @@ public:
     void setScrollShare(float share) override;
     void setScrollBar(ScrollBar* bar) override;
     int getScrollOffset() const { return scroll_.getOffset(); }
+    /// Whether the content is longer than the view.
+    bool canScroll() const { return options_.scrollable && scroll_.canScroll(); }
+    /// Scrolls as far as needed to bring a child, or something in one, into the view.
+    void scrollTo(const irr::gui::IGUIElement* element);
 
     void updateAbsolutePosition() override;
     void draw() override;

@@ -93,6 +93,7 @@ irr::s32 FlexibleFont::getKerningWidth(const wchar_t* thisLetter, const wchar_t*
 }
 
 float FlexibleFont::calculateOptimalScale(const wchar_t* text, const dimension2d<irr::u32>& target, int tabSize) const {
+    ++layouts_;
     const auto natural = getDimensionWithTabs(text, tabSize < 0 ? tabSize_ : tabSize, {1.0f, 1.0f});
     return optimalScale(natural, target);
 }
@@ -100,6 +101,7 @@ float FlexibleFont::calculateOptimalScale(const wchar_t* text, const dimension2d
 void FlexibleFont::fillMeshBuffer(SMeshBuffer& mesh, const wchar_t* text, int tabSize, bool centered, SColor color,
                                   float italicGradient, const matrix4* matrix, irr::video::E_MATERIAL_TYPE material,
                                   bool bilinear, bool recalcBox) const {
+    ++layouts_;
     const size_t length = lengthOf(text);
     FillMeshBufferCharacterCallback::Options options{color, italicGradient, matrix, centered, 0};
     if (centered) {

@@ -119,6 +119,8 @@ public:
 
     /// Meshes built by draw() so far: stands still while the texts stay the same.
     unsigned long getDrawRebuilds() const;
+    /// Meshes built and sizes fitted so far, by whomever: stands still while the texts and their places stay the same.
+    unsigned long getLayouts() const { return layouts_; }
 
 private:
     void setMaterial(irr::video::SMaterial& material, irr::video::E_MATERIAL_TYPE type, bool bilinear) const;
@@ -140,6 +142,7 @@ private:
     Shadow shadow_{{0.0f, 0.0f}, 0.2f, irr::video::SColor(0xFF000000)};
     irr::video::E_MATERIAL_TYPE materialType_ = irr::video::EMT_TRANSPARENT_ALPHA_CHANNEL;
     bool autoReset_ = true;
+    mutable unsigned long layouts_ = 0;
 };
 
 } // namespace skyvane

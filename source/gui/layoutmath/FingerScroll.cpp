@@ -10,7 +10,6 @@ namespace skyvane {
 namespace {
 
 constexpr double updateSeconds = 0.033;
-constexpr double clickShare = 0.01;
 
 } // namespace
 
@@ -63,7 +62,7 @@ void FingerScroll::move(int position) {
         return;
     const double way = static_cast<double>(position) - startPosition_;
     setOffset(startOffset_ + way);
-    dragged_ = dragged_ || std::abs(way) > clickShare * view_;
+    dragged_ = dragged_ || std::abs(way) > clickShare_ * view_;
 }
 
 void FingerScroll::release(double now) {

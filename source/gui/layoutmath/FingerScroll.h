@@ -13,6 +13,9 @@ namespace skyvane {
 /// ends at the ends of the content. Times in seconds.
 class FingerScroll {
 public:
+    /// A finger that moved by more than this share of the view means no click.
+    explicit FingerScroll(double clickShare = 0.01) : clickShare_(clickShare) {}
+
     void setLengths(int contentPixels, int viewPixels);
     int getOffset() const;
     /// 0 at the start, 1 at the end; 0 where nothing scrolls.
@@ -31,7 +34,7 @@ public:
     /// The finger left: the content glides on.
     void release(double now);
     bool isDragging() const { return state_ == State::Dragging; }
-    /// The finger moved by more than a hundredth of the view since it came: it means no click.
+    /// The finger moved by more than the click's share of the view since it came: it means no click.
     bool isDragged() const { return dragged_; }
 
     /// Works at most every 0.033 s. True when the offset changed.
@@ -46,6 +49,7 @@ private:
     void setOffset(double offset);
     bool glide(double now, double elapsed);
 
+    double clickShare_;
     double offset_ = 0.0;
     double lastOffset_ = 0.0;
     double speed_ = 0.0;

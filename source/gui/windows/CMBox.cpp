@@ -52,11 +52,14 @@ struct BoxPlaces {
 
 CMBox::CMBox(irr::gui::IGUIEnvironment* environment, irr::gui::IGUIElement* parent, const std::wstring& text,
              const std::wstring& positive, const std::wstring& negative, irr::s32 id)
-    : IGUIElement(irr::gui::EGUIET_ELEMENT, environment, orRoot(parent, environment), id,
-                  whole(orRoot(parent, environment))) {
+    : IGUIElement(irr::gui::EGUIET_MODAL_SCREEN, environment, orRoot(parent, environment), id,
+                  whole(orRoot(parent, environment))),
+      formerFocus_(environment) {
     build(text, positive, negative);
     Parent->bringToFront(this);
-    environment->setFocus(positive_ ? positive_ : negative_ ? negative_ : static_cast<IGUIElement*>(this));
+    environment->setFocus(this); // a modal window behind leaves the focus to a box, but not to what is in one
+    if (firstButton())
+        environment->setFocus(firstButton());
 }
 
 void CMBox::build(const std::wstring& text, const std::wstring& positive, const std::wstring& negative) {
@@ -103,7 +106,7 @@ void CMBox::OnPostRender(irr::u32 timeMilliseconds) {
 
 bool CMBox::OnEvent(const irr::SEvent& event) {
     if (event.EventType == irr::EET_KEY_INPUT_EVENT)
-        return onKey(event.KeyInput);
+        return onKey(event);
     if (event.EventType == irr::EET_MOUSE_INPUT_EVENT)
         return true;
     if (event.EventType != irr::EET_GUI_EVENT)
@@ -118,9 +121,14 @@ bool CMBox::OnEvent(const irr::SEvent& event) {
     return true;
 }
 
-bool CMBox::onKey(const irr::SEvent::SKeyInput& key) {
-    if (static_cast<irr::u32>(key.Key) == backKey && !key.PressedDown && !positive_ && !negative_)
+bool CMBox::onKey(const irr::SEvent& event) {
+    const irr::SEvent::SKeyInput& key = event.KeyInput;
+    if (static_cast<irr::u32>(key.Key) == backKey && !key.PressedDown && !firstButton())
         answer(nullptr, false);
+    else if (key.Key == irr::KEY_RETURN && firstButton() && Environment->getFocus() == this) {
+        Environment->setFocus(firstButton()); // a finger beside the buttons had taken it
+        firstButton()->OnEvent(event);
+    }
     return true;
 }
 
@@ -138,8 +146,8 @@ void CMBox::answer(irr::gui::IGUIButton* button, bool isPositive) {
     if (Parent)
         Parent->OnEvent(told);
     setVisible(false);
-    Environment->setFocus(nullptr);
     remove();
+    formerFocus_.restore();
     drop();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "gui/windows/FormerFocus.h"
+
 #include <irrlicht.h>
 #include <string>
 
@@ -13,7 +15,8 @@ namespace skyvane {
 ///
 /// A button calls OnPositive() or OnNegative(), then sends the parent a GUI event (caller: the box, element: the
 /// button, type EGET_MESSAGEBOX_YES or EGET_MESSAGEBOX_NO), hides the box and removes it. A box without buttons is
-/// closed by the back key when that is released. The parent holds the box; main thread only.
+/// closed by the back key when that is released. Enter is for the positive button, wherever on the box a finger has
+/// been before; what had the focus gets it back. The parent holds the box; main thread only.
 class CMBox : public irr::gui::IGUIElement {
 public:
     /// Null as parent is the whole screen. An empty label leaves its button out. The text is wrapped, and what doesn't
@@ -38,8 +41,10 @@ private:
     irr::gui::IGUIButton* addButton(const std::wstring& label, const irr::core::rect<irr::s32>& rect,
                                     const char* style);
     void answer(irr::gui::IGUIButton* button, bool isPositive);
-    bool onKey(const irr::SEvent::SKeyInput& key);
+    bool onKey(const irr::SEvent& event);
+    irr::gui::IGUIButton* firstButton() const { return positive_ ? positive_ : negative_; }
 
+    FormerFocus formerFocus_;
     irr::core::rect<irr::s32> window_;
     irr::gui::IGUIButton* positive_ = nullptr;
     irr::gui::IGUIButton* negative_ = nullptr;

@@ -21,9 +21,10 @@ std::wstring freeSpaceText(const MountPoint& folder) {
 } // namespace
 
 DataLocationDialog::DataLocationDialog(irr::gui::IGUIEnvironment* environment) : environment_(environment) {
-    IniFile document = readLayout(dataLocationLayout);
-    window_ = addWindowForRatio(environment_, &document, environment_->getRootGUIElement()->getAbsolutePosition(),
-                                false, nullptr, -1);
+    const irr::core::rect<int> screen = environment_->getRootGUIElement()->getAbsolutePosition();
+    const bool isPortrait = screen.getHeight() > screen.getWidth();
+    IniFile document = readLayout(isPortrait ? dataLocationPortraitLayout : dataLocationLandscapeLayout);
+    window_ = addWindowForRatio(environment_, &document, screen, false, nullptr, -1);
     window_->setVisible(false);
     gui_ = std::make_unique<GUI>(environment_, &document, windowArea(window_), window_, false);
     Skin::setButtonStyle(gui_->getElement("okButton"), "greenNormal");

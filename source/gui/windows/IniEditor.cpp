@@ -8,8 +8,11 @@
 #include "gui/elements/AggregatableGUIElementAdapter.h"
 #include "gui/elements/AggregateGUIElement.h"
 #include "gui/elements/ColorSelector.h"
+#include "gui/elements/ScrollBar.h"
+#include "gui/layout/EditorValues.h"
 #include "gui/skin/Skin.h"
 #include "gui/windows/GUI.h"
+#include "gui/windows/Help.h"
 #include "gui/windows/IniEditorField.h"
 #include "gui/windows/WindowTools.h"
 
@@ -30,21 +33,20 @@ IAggregatableGUIElement* space(irr::gui::IGUIEnvironment* environment, float wei
 }
 
 /// Label on the left, control of a button's height on the right.
-IAggregatableGUIElement* makeRow(irr::gui::IGUIEnvironment* environment, const IniEditorField& field, float share) {
-    irr::gui::IGUIStaticText* label =
-        environment->addStaticText(field.getRow().label.c_str(), Rect(0, 0, 1, 1), false, true);
-    label->setTextAlignment(irr::gui::EGUIA_UPPERLEFT, irr::gui::EGUIA_CENTER);
+IAggregatableGUIElement* makeRow(irr::gui::IGUIEnvironment* environment, const IniEditorField& field, float share,
+                                 float labelShare) {
     auto* control =
-        new AggregateGUIElement(environment, layoutOf(0.5f, false),
+        new AggregateGUIElement(environment, layoutOf(0.92f - labelShare, false),
                                 {space(environment, 0.25f),
                                  new AggregatableGUIElementAdapter(environment, field.getElement(), LayoutWish{1.0f}),
                                  space(environment, 0.25f)},
                                 {});
-    return new AggregateGUIElement(environment, layoutOf(share, true),
-                                   {space(environment, 0.03f),
-                                    new AggregatableGUIElementAdapter(environment, label, LayoutWish{0.44f}), control,
-                                    space(environment, 0.03f)},
-                                   {});
+    return new AggregateGUIElement(
+        environment, layoutOf(share, true),
+        {space(environment, 0.03f),
+         new AggregatableGUIElementAdapter(environment, field.getLabel(), LayoutWish{labelShare}),
+         space(environment, 0.02f), control, space(environment, 0.03f)},
+        {});
 }
 
 } // namespace
@@ -56,9 +58,9 @@ IniEditor::IniEditor(Context* context, std::string title, int rows, std::string*
         rows_.push_back({decodeUtf8(keys[i]), decodeUtf8(labels[i]), decodeUtf8(defaults[i]), types[i]});
 }
 
-IniEditor::IniEditor(Context* context, std::string title, const std::wstring& schema, const char*)
+IniEditor::IniEditor(Context* context, std::string title, const std::wstring& schema, const char* helpFile)
     : context_(context), environment_(context->getIrrlichtDevice()->getGUIEnvironment()), title_(decodeUtf8(title)),
-      rows_(parseEditorSchema(schema)) {}
+      helpFile_(helpFile ? helpFile : ""), rows_(parseEditorSchema(schema)) {}
 
 IniEditor::~IniEditor() {
     removeGUI();
@@ -71,9 +73,8 @@ void IniEditor::edit(IniFile* document) {
     init();
     createGUI();
     for (const auto& field : fields_) {
-        const std::string key = encodeUtf8(field->getRow().key);
-        if (document->isAvailable("", key))
-            field->setValue(decodeUtf8(document->get("", key)));
+        if (const auto value = readEditorValue(*document, field->getRow()))
+            field->setValue(decodeUtf8(*value));
     }
 }
 
@@ -96,16 +97,21 @@ void IniEditor::init() {
         title_.c_str(), Rect(0, 0, area.getWidth(), context_->getRecommendedButtonHeight() * 3 / 2), false, true,
         window_);
     title->setTextAlignment(irr::gui::EGUIA_CENTER, irr::gui::EGUIA_CENTER);
-    cancel_ = addButton(L"Cancel", "redNormal", irr::gui::EGUIA_UPPERLEFT);
-    ok_ = addButton(L"Ok", "greenNormal", irr::gui::EGUIA_LOWERRIGHT);
+    cancel_ = addButton(L"Cancel", "redNormal", 0.0);
+    if (!helpFile_.empty()) {
+        help_ = addButton(L"Help", "", 0.5);
+        prepareHelpButton(context_, help_, helpFile_.c_str());
+    }
+    ok_ = addButton(L"Ok", "greenNormal", 1.0);
     context_->getEvents()->setBackButton(cancel_);
 }
 
-irr::gui::IGUIButton* IniEditor::addButton(const wchar_t* label, const char* style, irr::gui::EGUI_ALIGNMENT side) {
+/// At a share of the way from the left end of the bottom line to its right end.
+irr::gui::IGUIButton* IniEditor::addButton(const wchar_t* label, const char* style, double place) {
     const Rect area = windowArea(window_);
     const int height = context_->getRecommendedButtonHeight();
     const int width = context_->getRecommendedButtonWidth() * 3 / 2;
-    const int left = side == irr::gui::EGUIA_UPPERLEFT ? height / 2 : area.getWidth() - height / 2 - width;
+    const int left = height / 2 + static_cast<int>(place * (area.getWidth() - height - width));
     const int top = area.getHeight() - height - height / 4;
     irr::gui::IGUIButton* button =
         environment_->addButton(Rect(left, top, left + width, top + height), window_, -1, label);
@@ -116,16 +122,28 @@ irr::gui::IGUIButton* IniEditor::addButton(const wchar_t* label, const char* sty
 void IniEditor::createGUI() {
     const Rect area = windowArea(window_);
     const int rowHeight = context_->getRecommendedButtonHeight() * 3 / 2;
-    const Rect pane(rowHeight / 6, rowHeight, area.getWidth() - rowHeight / 6, area.getHeight() - rowHeight);
+    const int bar = environment_->getSkin()->getSize(irr::gui::EGDS_SCROLLBAR_SIZE);
+    const Rect pane(rowHeight / 6, rowHeight, area.getWidth() - rowHeight / 6 - bar, area.getHeight() - rowHeight);
+    const float labelShare = context_->isPortrait() ? 0.58f : 0.44f; // a narrow screen has less room for long labels
     AggregateGUIElement::Elements rows;
     for (const EditorRow& row : rows_) {
         fields_.push_back(std::make_unique<IniEditorField>(environment_, row));
         rows.push_back(makeRow(environment_, *fields_.back(),
-                               static_cast<float>(rowHeight) / static_cast<float>(pane.getHeight())));
+                               static_cast<float>(rowHeight) / static_cast<float>(pane.getHeight()), labelShare));
     }
     AggregateGUIElement::Options options = layoutOf(1.0f, false);
     options.scrollable = true;
-    (new AggregateGUIElement(environment_, options, rows, {}, window_, pane))->drop();
+    pane_ = new AggregateGUIElement(environment_, options, rows, {}, window_, pane);
+    pane_->drop();
+    if (pane_->canScroll())
+        addScrollBar(
+            {pane.LowerRightCorner.X, pane.UpperLeftCorner.Y, pane.LowerRightCorner.X + bar, pane.LowerRightCorner.Y});
+}
+
+void IniEditor::addScrollBar(const Rect& place) {
+    auto* bar = new ScrollBar(environment_, 1.0f, false, -1, nullptr, LayoutWish(), window_, place);
+    bar->linkToScrollable(pane_);
+    bar->drop();
 }
 
 void IniEditor::processEvent(const irr::SEvent& event) {
@@ -133,6 +151,8 @@ void IniEditor::processEvent(const irr::SEvent& event) {
         accept();
     else if (isClickOf(event, cancel_))
         removeGUI();
+    else if (isClickOf(event, help_))
+        openHelp();
     else
         for (const auto& field : fields_)
             if (field->isColor() && isClickOf(event, field->getElement()))
@@ -147,15 +167,31 @@ void IniEditor::chooseColor(IniEditorField& field) {
     context_->getEvents()->setBackButton(cancel_);
 }
 
+void IniEditor::openHelp() {
+    showHelp(context_, helpFile_.c_str());
+    context_->getEvents()->setBackButton(cancel_);
+}
+
+/// Gives the first of them.
+IniEditorField* IniEditor::markWrongFields() {
+    IniEditorField* first = nullptr;
+    for (const auto& field : fields_) {
+        field->setMarked(!field->isRight());
+        if (!first && !field->isRight())
+            first = field.get();
+    }
+    return first;
+}
+
 void IniEditor::accept() {
-    for (const auto& field : fields_)
-        if (!field->isRight()) {
-            environment_->setFocus(field->getElement());
-            return;
-        }
+    if (IniEditorField* wrong = markWrongFields()) {
+        pane_->scrollTo(wrong->getElement()->getParent());
+        environment_->setFocus(wrong->getElement());
+        return;
+    }
     for (const auto& field : fields_)
         if (field->isEditable())
-            document_->set("", encodeUtf8(field->getRow().key), encodeUtf8(field->getValue()));
+            writeEditorValue(*document_, field->getRow(), encodeUtf8(field->getValue()));
     success = true;
     removeGUI();
 }
@@ -164,7 +200,9 @@ void IniEditor::removeGUI() {
     fields_.clear();
     removeWindow(window_);
     window_ = nullptr;
+    pane_ = nullptr;
     ok_ = nullptr;
+    help_ = nullptr;
     cancel_ = nullptr;
 }
 

@@ -9,6 +9,7 @@
 
 namespace skyvane {
 
+class AggregateGUIElement;
 class Context;
 class IniEditorField;
 class IniFile;
@@ -18,13 +19,14 @@ class IniFile;
 ///     IniEditor editor(context, "GDL 90", L"port,Port:,4000,INT;flavor,Flavor:,Generic\\;Talos,ONE_OF;", nullptr);
 ///     if (editor.run(&document)) ... "Ok" was pressed, the values are in the document ...
 ///
-/// The keys stand in the unnamed section. Values that have the wrong form keep the dialog open. Chart elements
-/// are shown, and stay as they are. Main thread only.
+/// The keys stand in the unnamed section, colours in either form of EditorValues.h. A value of the wrong form keeps the
+/// dialog open, which scrolls to it and marks it. Chart elements are shown, and stay as they are. Main thread only.
 class IniEditor {
 public:
     using ValueType = EditorValueType;
 
-    /// Texts in UTF-8, `rows` of each. The context outlives the editor.
+    /// Texts in UTF-8, `rows` of each. With a `helpFile` there is a Help button for that page. The context outlives the
+    /// editor.
     IniEditor(Context* context, std::string title, int rows, std::string* keys, std::string* labels,
               std::string* defaults, ValueType* types, const char* helpFile);
     IniEditor(Context* context, std::string title, const std::wstring& schema, const char* helpFile);
@@ -45,20 +47,26 @@ public:
 
 private:
     void init();
-    irr::gui::IGUIButton* addButton(const wchar_t* label, const char* style, irr::gui::EGUI_ALIGNMENT side);
+    irr::gui::IGUIButton* addButton(const wchar_t* label, const char* style, double place);
     void createGUI();
+    void addScrollBar(const irr::core::rect<irr::s32>& place);
+    IniEditorField* markWrongFields();
     void accept();
+    void openHelp();
     void chooseColor(IniEditorField& field);
     void removeGUI();
 
     Context* context_;
     irr::gui::IGUIEnvironment* environment_;
     std::wstring title_;
+    std::string helpFile_;
     std::vector<EditorRow> rows_;
     std::vector<std::unique_ptr<IniEditorField>> fields_;
     IniFile* document_ = nullptr;
     irr::gui::IGUIWindow* window_ = nullptr;
+    AggregateGUIElement* pane_ = nullptr;
     irr::gui::IGUIButton* ok_ = nullptr;
+    irr::gui::IGUIButton* help_ = nullptr;
     irr::gui::IGUIButton* cancel_ = nullptr;
 };
 

@@ -9,6 +9,8 @@ namespace {
 
 using Type = EditorValueType;
 const irr::core::rect<irr::s32> laidOutLater(0, 0, 1, 1);
+/// Bright on the dark pane, and not the red of a button.
+const irr::video::SColor wrongColor(0xffff7a6b);
 
 /// Lets the button beneath have the clicks.
 class ButtonSwatch : public ColorSwatch {
@@ -20,7 +22,10 @@ public:
 } // namespace
 
 IniEditorField::IniEditorField(irr::gui::IGUIEnvironment* environment, const EditorRow& row)
-    : row_(row), element_(EngineRef<irr::gui::IGUIElement>::share(make(environment))) {
+    : row_(row), element_(EngineRef<irr::gui::IGUIElement>::share(make(environment))),
+      label_(EngineRef<irr::gui::IGUIStaticText>::share(
+          environment->addStaticText(row.label.c_str(), laidOutLater, false, true))) {
+    label_->setTextAlignment(irr::gui::EGUIA_UPPERLEFT, irr::gui::EGUIA_CENTER);
     if (row_.type != Type::ONE_OF)
         setValue(row_.standard);
 }
@@ -38,6 +43,8 @@ irr::gui::IGUIElement* IniEditorField::make(irr::gui::IGUIEnvironment* environme
     case Type::COLOR_RGB:
     case Type::COLOR_RGBA:
         return makeSwatch(environment);
+    case Type::CHARTELEMENT:
+        return makeElementButton(environment);
     default:
         irr::gui::IGUIStaticText* text = environment->addStaticText(L"", laidOutLater);
         text->setTextAlignment(irr::gui::EGUIA_UPPERLEFT, irr::gui::EGUIA_CENTER);
@@ -60,6 +67,22 @@ irr::gui::IGUIElement* IniEditorField::makeSwatch(irr::gui::IGUIEnvironment* env
     swatch->setAlignment(irr::gui::EGUIA_SCALE, irr::gui::EGUIA_SCALE, irr::gui::EGUIA_SCALE, irr::gui::EGUIA_SCALE);
     swatch->drop();
     return button;
+}
+
+/// Shows the element that the document names. It can't be pressed while there is no search for another.
+irr::gui::IGUIElement* IniEditorField::makeElementButton(irr::gui::IGUIEnvironment* environment) const {
+    irr::gui::IGUIButton* button = environment->addButton(laidOutLater);
+    button->setEnabled(false);
+    return button;
+}
+
+void IniEditorField::setMarked(bool marked) {
+    const std::wstring form = row_.type == Type::INT ? L"  A whole number, please." : L"  A number, please.";
+    label_->setText((marked ? row_.label + form : row_.label).c_str());
+    if (marked)
+        label_->setOverrideColor(wrongColor);
+    else
+        label_->enableOverrideColor(false);
 }
 
 bool IniEditorField::isColor() const {

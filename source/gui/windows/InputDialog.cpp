@@ -1,6 +1,9 @@
 #include "gui/windows/InputDialog.h"
 
+#include "gui/font/MakeWordWrappedText.h"
 #include "gui/skin/Skin.h"
+
+#include <algorithm>
 
 namespace skyvane {
 namespace {
@@ -11,7 +14,7 @@ constexpr int plainStringId = -3;
 } // namespace
 
 InputDialog addInputDialog(irr::gui::IGUIEnvironment* environment, const std::wstring& title, const std::wstring& text,
-                           const std::wstring& standard) {
+                           const std::wstring& standard, irr::gui::IGUIElement* parent) {
     const Rect screen = environment->getRootGUIElement()->getAbsolutePosition();
     const int w = screen.getWidth() * 3 / 4;
     const int h = screen.getHeight() / 2;
@@ -19,12 +22,17 @@ InputDialog addInputDialog(irr::gui::IGUIEnvironment* environment, const std::ws
     const int buttonWidth = environment->getSkin()->getSize(irr::gui::EGDS_BUTTON_WIDTH) * 5 / 4;
     InputDialog dialog{};
     dialog.window = environment->addWindow(
-        Rect(screen.getCenter() - irr::core::position2di(w / 2, h / 2), irr::core::dimension2di(w, h)), true);
+        Rect(screen.getCenter() - irr::core::position2di(w / 2, h / 2), irr::core::dimension2di(w, h)), !parent, L"",
+        parent);
     dialog.window->getCloseButton()->setVisible(false);
     dialog.window->setDraggable(false);
     dialog.window->setDrawTitlebar(false);
     const auto addText = [&](const std::wstring& shown, int top, int bottom) {
-        environment->addStaticText(shown.c_str(), Rect(w / 20, top, w - w / 20, bottom), false, true, dialog.window)
+        const Rect place(w / 20, top, w - w / 20, bottom);
+        // Wrapped here: the element's own way leaves a long path whole, and cut on both sides.
+        const std::wstring wrapped = makeWordWrappedText(shown, static_cast<unsigned>(std::max(place.getWidth(), 1)),
+                                                         environment->getSkin()->getFont(), false);
+        environment->addStaticText(wrapped.c_str(), place, false, false, dialog.window)
             ->setTextAlignment(irr::gui::EGUIA_CENTER, irr::gui::EGUIA_CENTER);
     };
     addText(title, h / 20, h / 5);
@@ -41,6 +49,8 @@ InputDialog addInputDialog(irr::gui::IGUIEnvironment* environment, const std::ws
         environment->addButton(Rect(right, bottom - button, right + buttonWidth, bottom), dialog.window, -1, L"Ok");
     Skin::setButtonStyle(dialog.cancel, "redNormal");
     Skin::setButtonStyle(dialog.ok, "greenNormal");
+    if (parent)
+        environment->setFocus(parent); // a modal window behind would take it back from the edit box
     environment->setFocus(dialog.edit);
     return dialog;
 }

@@ -5,7 +5,12 @@
 /// The layout documents of the program's windows, as texts that end in a NUL. Their sources are the files of
 /// gui/windows/documents.
 extern "C" {
-extern const char dataLocationLayout[];
+extern const char dataLocationLandscapeLayout[];
+extern const char dataLocationPortraitLayout[];
+extern const char loadSaveLandscapeLayout[];
+extern const char loadSavePortraitLayout[];
+extern const char listScreenLandscapeLayout[];
+extern const char listScreenPortraitLayout[];
 extern const char progressLandscapeLayout[];
 extern const char progressPortraitLayout[];
 }

@@ -30,26 +30,6 @@ TEST(DialFactory, names) {
     EXPECT_EQ(SlipIndicatorFactory(nullptr).getName(), "Slip/Skid Indicator");
 }
 
-TEST(DialFactory, setupOfAStripWritesItsStandardKeys) {
-    IniFile ini;
-    EXPECT_TRUE(SlipIndicatorFactory(nullptr).setup(&ini, "P3"));
-    EXPECT_EQ(ini.get("P3", "drawText"), "1");
-    EXPECT_EQ(ini.get("P3", "pfdColor.R"), "128");
-    EXPECT_EQ(ini.get("P3", "pfdColor.A"), "64");
-    EXPECT_EQ(ini.get("P3", "Color.B"), "255");
-}
-
-TEST(DialFactory, setupOfAFieldKeepsWhatStandsAndRepairsTheRest) {
-    IniFile ini;
-    ini.set("P3", "Type", "nonsense");
-    ini.set("P3", "Color.R", "20");
-    EXPECT_TRUE(OneSegmentPanelFactory(nullptr).setup(&ini, "P3"));
-    EXPECT_EQ(ini.get("P3", "Type"), "HEADING");
-    EXPECT_EQ(ini.get("P3", "Color.R"), "20");
-    EXPECT_EQ(ini.get("P3", "Color.B"), "128");
-    EXPECT_EQ(ini.get("P3", "Sensor0"), "-1");
-}
-
 TEST(DialFactory, setupWritesTheDefaultSensorIntoItsSectionAlone) {
     IniFile ini;
     ini.set("P2", "Page", "1");

@@ -13,6 +13,7 @@
 #include "support/AllocationCounter.h"
 #include "support/GlDevice.h"
 #include "support/SourceFolder.h"
+#include "support/StartAnswers.h"
 
 #include <filesystem>
 #include <fstream>
@@ -37,6 +38,7 @@ protected:
         char folder[] = "/tmp/skyvane_instruments_XXXXXX";
         ASSERT_TRUE(mkdtemp(folder));
         home = folder;
+        answerStartQuestions(folder);
         const std::string media = builtMedia();
         std::filesystem::create_directory_symlink(media, home + "/media");
         context = std::make_unique<Context>(gl.device(), (home + "/skyvane").c_str(), false);

@@ -4,6 +4,7 @@
 #include "core/ModalLoop.h"
 #include "support/GlDevice.h"
 #include "support/SourceFolder.h"
+#include "support/StartAnswers.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -60,7 +61,7 @@ protected:
         char folder[] = "/tmp/skyvane_color_XXXXXX";
         ASSERT_TRUE(mkdtemp(folder));
         home = folder;
-        setenv("SKYVANE_DATA_ROOT", folder, 1); // a first start asks nothing then
+        answerStartQuestions(folder);
         std::filesystem::create_directory_symlink(sourceFolder() + "media", home + "/media");
         context = std::make_unique<Context>(gl.device(), (home + "/skyvane").c_str(), false);
     }

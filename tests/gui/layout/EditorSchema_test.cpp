@@ -1,5 +1,8 @@
 #include "gui/layout/EditorSchema.h"
 
+#include "core/ini/IniFile.h"
+#include "gui/layout/EditorValues.h"
+
 #include <gtest/gtest.h>
 
 namespace skyvane {
@@ -52,6 +55,25 @@ TEST(EditorSchema, ColoursKeepTheirBounds) {
     EXPECT_EQ("1,2,3,255", EditorColor::parse("1,2,3").toText(true));
     EXPECT_EQ("255,0,0,7", EditorColor::parse("300,-4,x,7,9").toText(true));
     EXPECT_EQ("0,0,0,255", EditorColor::parse("").toText(true));
+}
+
+TEST(EditorValuesTest, ColoursKeepTheFormThatTheDocumentHas) {
+    const EditorRow tint{L"tint", L"", L"1,2,3,4", EditorValueType::COLOR_RGBA};
+    const EditorRow plain{L"plain", L"", L"1,2,3", EditorValueType::COLOR_RGB};
+    IniFile document;
+    document.setFromString("tint.R = 200\ntint.B = 999\nplain = 9,8,7\n");
+    EXPECT_EQ("200,2,255,4", readEditorValue(document, tint).value_or(""));
+    EXPECT_EQ("9,8,7", readEditorValue(document, plain).value_or(""));
+    writeEditorValue(document, tint, "10,20,30,40");
+    writeEditorValue(document, plain, "5,6,7");
+    EXPECT_EQ("plain = 5,6,7\ntint.A = 40\ntint.B = 30\ntint.G = 20\ntint.R = 10\n\n", document.toString());
+    IniFile fresh;
+    EXPECT_FALSE(readEditorValue(fresh, plain));
+    EXPECT_EQ("", fresh.toString());
+    writeEditorValue(fresh, plain, "5,6,7");
+    EXPECT_EQ("plain = 5,6,7\nplain.B = 7\nplain.G = 6\nplain.R = 5\n\n", fresh.toString());
+    document.setFromString("port.R = 3\n");
+    EXPECT_FALSE(readEditorValue(document, {L"port", L"", L"", EditorValueType::INT}));
 }
 
 } // namespace skyvane

@@ -1,83 +1,28 @@
-#include "core/Context.h"
-#include "core/FrameLoop.h"
-#include "core/ModalLoop.h"
 #include "core/events/EventReceiver.h"
 #include "core/ini/IniFile.h"
 #include "core/time/Time.h"
 #include "gui/windows/CMBox.h"
 #include "gui/windows/ChooseFromListDialog.h"
+#include "gui/windows/DialogFixture.h"
+#include "gui/windows/EditBoxDialog.h"
+#include "gui/windows/GUI.h"
 #include "gui/windows/IniEditor.h"
 #include "gui/windows/InputDialog.h"
 #include "gui/windows/NumberEditBox.h"
 #include "gui/windows/ProgressDialog.h"
-#include "support/GlDevice.h"
-#include "support/SourceFolder.h"
+#include "gui/windows/Questions.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
+
+#include <iterator>
+#include <random>
 
 namespace skyvane {
 namespace {
 
-using irr::gui::IGUIElement;
+using DialogsTest = DialogFixture;
 
-/// Finds an element by the text on it, anywhere below.
-IGUIElement* findText(IGUIElement* root, const wchar_t* text) {
-    if (std::wstring(root->getText()) == text)
-        return root;
-    for (IGUIElement* child : root->getChildren())
-        if (IGUIElement* found = findText(child, text))
-            return found;
-    return nullptr;
-}
-
-/// The dialogs in a program without panels, on both shapes of screen.
-class DialogsTest : public testing::TestWithParam<bool> {
-protected:
-    DialogsTest() : gl(GetParam() ? 720 : 1280, GetParam() ? 1280 : 720) {}
-    void SetUp() override {
-        if (!gl)
-            GTEST_SKIP() << "no display";
-        char folder[] = "/tmp/skyvane_dialogs_XXXXXX";
-        ASSERT_TRUE(mkdtemp(folder));
-        home = folder;
-        setenv("SKYVANE_DATA_ROOT", folder, 1);
-        std::filesystem::create_directory_symlink(sourceFolder() + "media", home + "/media");
-        context = std::make_unique<Context>(gl.device(), (home + "/skyvane").c_str(), false);
-        frames = std::make_unique<FrameLoop>(*context);
-        root = gl.device()->getGUIEnvironment()->getRootGUIElement();
-    }
-    void TearDown() override {
-        frames.reset();
-        context.reset();
-        std::error_code ignored;
-        std::filesystem::remove_all(home, ignored);
-    }
-    void postMouse(irr::EMOUSE_INPUT_EVENT kind, irr::core::position2di place) {
-        irr::SEvent event{};
-        event.EventType = irr::EET_MOUSE_INPUT_EVENT;
-        event.MouseInput.Event = kind;
-        event.MouseInput.X = place.X;
-        event.MouseInput.Y = place.Y;
-        gl.device()->postEventFromUser(event);
-    }
-    void click(IGUIElement* element) {
-        const irr::core::position2di place = element->getAbsolutePosition().getCenter();
-        postMouse(irr::EMIE_MOUSE_MOVED, place);
-        postMouse(irr::EMIE_LMOUSE_PRESSED_DOWN, place);
-        postMouse(irr::EMIE_LMOUSE_LEFT_UP, place);
-    }
-    void picture(const char* name) {
-        gl.grab();
-        gl.savePicture((std::string(name) + (GetParam() ? "-portrait.png" : "-landscape.png")).c_str());
-    }
-
-    GlDevice gl;
-    std::string home;
-    std::unique_ptr<Context> context;
-    std::unique_ptr<FrameLoop> frames;
-    IGUIElement* root = nullptr;
-};
+constexpr irr::u32 backKey = 0xA6;
 
 constexpr const wchar_t* schema = L"port,Port:,4000,INT;flavor,Flavor:,Generic\\;Talos\\;Levil,ONE_OF;"
                                   L"name,Name:,Skyvane,STRING;scale,Scale:,1.5,DOUBLE;on,Active:,1,BOOLEAN;"
@@ -105,8 +50,10 @@ TEST_P(DialogsTest, TheEditorWritesWhatWasEnteredAndKeepsWrongNumbersOut) {
             EXPECT_EQ(std::wstring(L"40x"), gl.device()->getGUIEnvironment()->getFocus()->getText());
             EXPECT_FALSE(document.isAvailable("", "port"));
             findText(root, L"40x")->setText(L"-7");
-            click(findText(root, L"Ok"));
+            environment->setFocus(nullptr); // keys stood before "Ok"
         }
+        if (frame == 7)
+            click(findText(root, L"Ok"));
         return editor.isVisible() && frame < 20;
     }));
     EXPECT_TRUE(editor.success);
@@ -135,6 +82,41 @@ TEST_P(DialogsTest, CancelLeavesTheDocumentAlone) {
     EXPECT_EQ("", document.toString());
 }
 
+TEST_P(DialogsTest, ALongEditorScrollsToTheWrongFieldAndMarksIt) {
+    std::wstring longSchema;
+    for (int i = 0; i < 40; ++i)
+        longSchema += L"k" + std::to_wstring(i) + L",Setting " + std::to_wstring(i) + L":,1.5,DOUBLE;";
+    longSchema += L"place,Place:,Airfield of the Sea of Clouds,CHARTELEMENT;shade,Shade:,10\\,20\\,30\\,90,COLOR_RGBA;";
+    IniEditor editor(context.get(), "Many settings", longSchema, "Many.hti");
+    IniFile document;
+    document.set("", "k30", "far");
+    document.set("", "place", "Home");
+    const auto isInView = [&](irr::gui::IGUIElement* element) {
+        return element && element->getAbsoluteClippingRect().getHeight() > context->getRecommendedButtonHeight() / 2;
+    };
+    script->then([&] {
+        EXPECT_FALSE(isInView(findText(root, L"far")));
+        EXPECT_FALSE(findText(root, L"Help")->isEnabled());
+        expectTouchable(findText(root, L"Help"));
+        expectTouchable(findText(root, L"Ok"));
+        EXPECT_FALSE(findText(root, L"Home")->isEnabled());
+        click(L"Ok");
+    });
+    script->then([&] {
+        picture("editor-long");
+        EXPECT_TRUE(isInView(findText(root, L"far")));
+        EXPECT_TRUE(isShown(L"Setting 30:  A number, please."));
+        findText(root, L"far")->setText(L"-.5");
+        environment->setFocus(nullptr); // keys stood before "Ok"
+    });
+    script->then([&] { click(L"Ok"); });
+    EXPECT_TRUE(editor.run(&document));
+    EXPECT_EQ("-.5", document.get("", "k30"));
+    EXPECT_EQ("1.5", document.get("", "k39"));
+    EXPECT_EQ("Home", document.get("", "place"));
+    EXPECT_EQ("10,20,30,90", document.get("", "shade"));
+}
+
 TEST_P(DialogsTest, AMessageBoxTellsItsParentAndGoes) {
     (new CMBox(gl.device()->getGUIEnvironment(), nullptr,
                L"The page and everything on it will be deleted, and can't be brought back afterwards. Go on?",
@@ -156,7 +138,6 @@ TEST_P(DialogsTest, OnlyABoxWithoutButtonsClosesByTheBackKey) {
     irr::SEvent back{};
     back.EventType = irr::EET_KEY_INPUT_EVENT;
     back.KeyInput.Key = static_cast<irr::EKEY_CODE>(0xA6);
-    irr::gui::IGUIEnvironment* environment = gl.device()->getGUIEnvironment();
     auto mute = EngineRef<CMBox>::adopt(new CMBox(environment, nullptr, L"Wait", L"", L""));
     auto asking = EngineRef<CMBox>::adopt(new CMBox(environment, nullptr, L"Well?", L"Ok", L""));
     asking->OnEvent(back);
@@ -171,6 +152,7 @@ TEST_P(DialogsTest, OnlyABoxWithoutButtonsClosesByTheBackKey) {
 }
 
 TEST_P(DialogsTest, ProgressGoesOnUntilThePilotGivesItUp) {
+    context->setFrames(frames.get()); // a slow machine runs many
     ProgressDialog dialog(context.get(), L"Preparing the chart");
     dialog.setProgress(0.6);
     dialog.setState(L"Airspaces: 1200 of 2000");
@@ -186,9 +168,11 @@ TEST_P(DialogsTest, ProgressGoesOnUntilThePilotGivesItUp) {
 }
 
 TEST_P(DialogsTest, ANumberKeepsItsBoundsAndTellsItsChanges) {
-    irr::gui::IGUIEnvironment* environment = gl.device()->getGUIEnvironment();
+    const irr::core::dimension2di size(context->getRecommendedButtonWidth() * 3, context->getRecommendedButtonHeight());
     auto box = EngineRef<NumberEditBox>::adopt(
-        new NumberEditBox(environment, nullptr, 5, {100, 100, 500, 150}, 7, {10, 0, 1, 5, 1}));
+        new NumberEditBox(environment, nullptr, 5, irr::core::recti({100, 100}, size), 7, {10, 0, 1, 5, 1}));
+    for (const wchar_t* caption : {L"--", L"-", L"+", L"++"})
+        expectTouchable(findText(box.get(), caption));
     int told = 0;
     ModalLoop loop(*frames, {[&](const irr::SEvent& event) {
         told += event.EventType == irr::EET_GUI_EVENT && event.GUIEvent.Caller == box.get() &&
@@ -225,13 +209,160 @@ TEST_P(DialogsTest, TheInputAndTheListStandOnTheScreen) {
     loop.step();
     picture("choose");
     ASSERT_EQ(3u, buttons.size());
+    for (irr::gui::IGUIButton* button : buttons)
+        expectTouchable(button);
     EXPECT_EQ(5, buttons[1]->getID());
     EXPECT_EQ(-1, buttons[2]->getID());
     list->remove();
-    list = createChooseFromListDialog(gl.device(), buttons, {}, std::vector<std::wstring>(500, L"x"), L"Many");
+    list =
+        createChooseFromListDialog(gl.device(), buttons, {}, std::vector<std::wstring>(500, L"One of many"), L"Many");
+    loop.step();
+    picture("choose-many");
+    expectTouchable(buttons[0]);
     EXPECT_LE(list->getAbsolutePosition().LowerRightCorner.Y, root->getAbsolutePosition().LowerRightCorner.Y);
 }
 
-INSTANTIATE_TEST_SUITE_P(BothShapes, DialogsTest, testing::Bool());
+TEST_P(DialogsTest, QuestionsWaitForTheirAnswers) {
+    script->then([&] {
+        picture("question");
+        expectTouchable(findText(root, L"Replace"));
+        click(L"Replace");
+    });
+    EXPECT_TRUE(askInBox(*context, L"The plan is there already.", L"Replace", L"Cancel"));
+    script->then([&] { key(backKey); });
+    EXPECT_FALSE(askInBox(*context, L"The plan is there already.", L"Replace", L"Cancel"));
+    EXPECT_FALSE(isShown(L"Replace"));
+
+    script->then([&] {
+        picture("text");
+        findText(root, L"Plan 1")->setText(L"");
+        click(L"Ok");
+    });
+    script->then([&] {
+        ASSERT_TRUE(isShown(L"Ok"));
+        environment->getFocus()->setText(L"Zell");
+        key(irr::KEY_RETURN, L'\r');
+    });
+    EXPECT_EQ(L"Zell", askForText(*context, L"Rename", L"The new name:", L"Plan 1").value_or(L""));
+    script->then([&] { environment->setFocus(nullptr); }).then([&] { key(backKey); });
+    EXPECT_FALSE(askForText(*context, L"Rename", L"The new name:", L"Plan 1"));
+    EXPECT_FALSE(isShown(L"Plan 1"));
+    // The window is closed in place of an answer.
+    EXPECT_FALSE(askForText(*context, L"Rename", L"The new name:", L"Plan 1"));
+    EXPECT_FALSE(isShown(L"Plan 1"));
+}
+
+/// Boxes upon boxes upon a modal window: Enter is for the uppermost, also after a finger beside its buttons, and the
+/// edit box below has the focus again afterwards.
+TEST_P(DialogsTest, TheFocusGoesBackToWhatLiesBeneath) {
+    IniFile document;
+    const auto tell = [&](const wchar_t* text) { (new CMBox(environment, nullptr, text, L"Ok", L"Cancel"))->drop(); };
+    irr::gui::IGUIElement* edited = nullptr;
+    script
+        ->then([&] {
+            edited = findText(root, L"4000");
+            click(edited);
+        })
+        .then([&] {
+            EXPECT_EQ(edited, environment->getFocus());
+            tell(L"First");
+            tell(L"Second");
+        })
+        .then([&] {
+            clickAt({3, 3}); // on the dimmed glass
+            key(irr::KEY_RETURN, L'\r');
+        })
+        .then([&] {
+            EXPECT_FALSE(isShown(L"Second"));
+            ASSERT_TRUE(isShown(L"First"));
+            key(irr::KEY_RETURN, L'\r');
+        })
+        .then([&] {
+            EXPECT_FALSE(isShown(L"First"));
+            EXPECT_EQ(edited, environment->getFocus());
+            key(irr::KEY_END);
+            key(irr::KEY_KEY_7, L'7');
+        })
+        .then([&] { environment->setFocus(nullptr); }) // the keys on the screen go
+        .then([&] { click(L"Ok"); });
+    EXPECT_TRUE(IniEditor(context.get(), "Receiver", L"port,Port:,4000,INT;", nullptr).run(&document));
+    EXPECT_EQ("40007", document.get("", "port"));
+    EXPECT_TRUE(script->isDone());
+}
+
+TEST_P(DialogsTest, AStormOfClicksAnswersOnlyOnce) {
+    struct Answers : IEditBoxDialogCallback {
+        void OnResult(EditBoxDialog*, const wchar_t*, bool) override { ++count; }
+        int count = 0;
+    } answers;
+    EditBoxDialog::Options options;
+    options.hint = L"Characters: 0-9, A-Z, a-z, - and _";
+    options.isPassword = true;
+    (new EditBoxDialog(&answers, gl.device(), L"Key", L"At least 8 characters:", L"secret", options))->drop();
+    ModalLoop loop(*frames);
+    loop.step();
+    picture("password");
+    const irr::core::position2di ok = findText(root, L"Ok")->getAbsolutePosition().getCenter();
+    for (int i = 0; i < 200; ++i) {
+        clickAt(ok);
+        key(i % 2 ? irr::KEY_RETURN : irr::KEY_TAB, L'\t');
+        clickAt({i * 7 % static_cast<int>(GetParam().Width), i * 11 % static_cast<int>(GetParam().Height)});
+    }
+    loop.step();
+    EXPECT_EQ(1, answers.count);
+    EXPECT_FALSE(isShown(L"secret"));
+}
+
+/// Documents with missing keys, unknown words and absurd rectangles; built, drawn, and clicked all over.
+TEST_P(DialogsTest, HostileLayoutsGiveWindowsThatCanBeUsed) {
+    const char* const types[] = {"Button",
+                                 "Text",
+                                 "ListBox",
+                                 "ComboBox",
+                                 "CheckBox",
+                                 "VerticalScrollBar",
+                                 "HorizontalScrollBar",
+                                 "EditBox",
+                                 "SpecialRectangle",
+                                 "Nonsense",
+                                 ""};
+    const char* const rects[] = {
+        "0,0,1,1", "0.4,0.4,0.4,0.4", "9,9,-9,-9", "nan,inf,-inf,1e308", "0.1,0.1,0.1001,2", "",
+        ",,,",     "0.2,0.2,0.6,0.3"};
+    const char* const others[] = {
+        "Hides", "Switches", "VisibilityDomain", "Default", "EditType", "ExclusiveCounterParts", "HAlign", "Text"};
+    const char* const values[] = {"0", "-1", "2147483648", "a,b,c,a", "\xff\xfe", "Center", "MULTILINE_STRING_EDIT",
+                                  "1"};
+    std::mt19937 random(7);
+    ModalLoop loop(*frames);
+    for (int round = 0; round < 12; ++round) {
+        IniFile document;
+        document.set("", "EleCount", round % 4 == 3 ? "99999999" : "24");
+        document.set("", "Ratio", round % 3 == 0 ? "1.77778" : round % 3 == 1 ? "-0" : "1e9");
+        for (int i = 0; i < 24; ++i) {
+            const std::string section = "E" + std::to_string(i);
+            document.set(section, "Type", types[random() % std::size(types)]);
+            document.set(section, "Rect", rects[random() % std::size(rects)]);
+            document.set(section, "Id", std::string(1, static_cast<char>('a' + random() % 6)));
+            for (int k = 0; k < 3; ++k)
+                document.set(section, others[random() % std::size(others)], values[random() % std::size(values)]);
+        }
+        irr::gui::IGUIWindow* window =
+            addWindowForRatio(environment, &document, root->getAbsolutePosition(), true, nullptr, -1);
+        GUI gui(environment, &document, windowArea(window), window, round % 2 == 0);
+        for (int i = 0; i < 30; ++i) {
+            clickAt({static_cast<int>(random() % GetParam().Width), static_cast<int>(random() % GetParam().Height)});
+            key(i % 2 ? irr::KEY_TAB : irr::KEY_DOWN, L'x');
+        }
+        loop.step();
+        gui.setDefaults();
+        gui.setVisible(round % 2 == 0);
+        loop.step();
+        window->getParent()->remove();
+    }
+    EXPECT_EQ(0u, root->getChildren().size());
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, DialogsTest, allScreens());
 
 } // namespace skyvane

@@ -1,5 +1,10 @@
 # The layouts of the program's windows; gui/windows/LayoutDocuments.h declares them.
 set(layouts ${CMAKE_CURRENT_LIST_DIR})
-skyvane_embed(skyvane_upper dataLocationLayout ${layouts}/dataLocation.ini)
+skyvane_embed(skyvane_upper dataLocationLandscapeLayout ${layouts}/dataLocationLandscape.ini)
+skyvane_embed(skyvane_upper dataLocationPortraitLayout ${layouts}/dataLocationPortrait.ini)
+skyvane_embed(skyvane_upper loadSaveLandscapeLayout ${layouts}/loadSaveLandscape.ini)
+skyvane_embed(skyvane_upper loadSavePortraitLayout ${layouts}/loadSavePortrait.ini)
 skyvane_embed(skyvane_upper progressLandscapeLayout ${layouts}/progressLandscape.ini)
 skyvane_embed(skyvane_upper progressPortraitLayout ${layouts}/progressPortrait.ini)
+skyvane_embed(skyvane_upper listScreenLandscapeLayout ${layouts}/listScreenLandscape.ini)
+skyvane_embed(skyvane_upper listScreenPortraitLayout ${layouts}/listScreenPortrait.ini)

@@ -1,0 +1,65 @@
+#include "displays/labels/ConcurrentRectangleGradientDescent.h"
+
+#include "core/threads/ThreadPool.h"
+#include "core/time/Time.h"
+
+namespace skyvane {
+
+ConcurrentRectangleGradientDescent::ConcurrentRectangleGradientDescent(const irr::core::rect<double>& spaceLimit)
+    : solver_(spaceLimit) {}
+
+ConcurrentRectangleGradientDescent::~ConcurrentRectangleGradientDescent() {
+    abort();
+}
+
+bool ConcurrentRectangleGradientDescent::start(unsigned maxIterations, double step, double threshold,
+                                               bool anchorsAreObstacles) {
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        if (running_)
+            return false;
+        aborted_ = false;
+        running_ = true;
+    }
+    maxIterations_ = maxIterations;
+    step_ = step;
+    threshold_ = threshold;
+    anchorsAreObstacles_ = anchorsAreObstacles;
+    if (globalThreadPool().startThreadedFunction(threadMain, this))
+        return true;
+    const std::lock_guard<std::mutex> lock(mutex_);
+    running_ = false;
+    return false;
+}
+
+void ConcurrentRectangleGradientDescent::abort() {
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        aborted_ = running_;
+    }
+    while (isRunning())
+        Delay(1);
+}
+
+bool ConcurrentRectangleGradientDescent::isRunning() const {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    return running_;
+}
+
+bool ConcurrentRectangleGradientDescent::isAborted() const {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    return aborted_;
+}
+
+void* ConcurrentRectangleGradientDescent::threadMain(void* self) {
+    static_cast<ConcurrentRectangleGradientDescent*>(self)->run();
+    return nullptr;
+}
+
+void ConcurrentRectangleGradientDescent::run() {
+    solver_.optimize(maxIterations_, step_, threshold_, anchorsAreObstacles_, [this] { return isAborted(); });
+    const std::lock_guard<std::mutex> lock(mutex_);
+    running_ = false;
+}
+
+} // namespace skyvane

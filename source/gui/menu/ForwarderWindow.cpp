@@ -1,0 +1,71 @@
+#include "gui/menu/ForwarderWindow.h"
+
+#include "core/Context.h"
+#include "core/text/Utf8.h"
+#include "gui/menu/MenuLayouts.h"
+#include "gui/windows/AskYesNo.h"
+#include "gui/windows/Help.h"
+#include "gui/windows/WindowTools.h"
+#include "sensors/SensorManager.h"
+
+namespace skyvane {
+namespace {
+
+const char* const helpFile = "Forwarding.hti";
+
+} // namespace
+
+ForwarderWindow::ForwarderWindow(Context* context)
+    : MenuWindow(context, forwardersLandscapeLayout, forwardersPortraitLayout) {
+    SensorManager* sensors = context->getSensorManager();
+    for (int i = 0; i < sensors->getForwarderFactoryCount(); ++i) {
+        ISensorForwarderFactory* factory = sensors->getForwarderFactory(i);
+        if (!factory)
+            continue;
+        factories_.push_back(i);
+        list("lmethods")->addItem(decodeUtf8(factory->getName()).c_str());
+    }
+    if (!factories_.empty())
+        list("lmethods")->setSelected(0);
+    prepareHelpButton(context, element("bhelp"), helpFile);
+    updateForwarderListBox();
+}
+
+void ForwarderWindow::updateForwarderListBox() {
+    SensorManager* sensors = context_->getSensorManager();
+    list("lforwarders")->clear();
+    for (int i = 0; i < sensors->getSensorForwarderCount(); ++i)
+        list("lforwarders")->addItem(decodeUtf8(sensors->getSensorForwarder(i)->getName()).c_str());
+    element("bremove")->setEnabled(sensors->getSensorForwarderCount() > 0);
+}
+
+void ForwarderWindow::onEvent(const irr::SEvent& event) {
+    if (isClickOf(event, element("badd")))
+        add();
+    else if (isClickOf(event, element("bremove")))
+        remove();
+    else if (isClickOf(event, element("bhelp")))
+        showHelp(context_, helpFile);
+}
+
+void ForwarderWindow::add() {
+    const irr::s32 selected = list("lmethods")->getSelected();
+    if (selected < 0)
+        return;
+    SensorManager* sensors = context_->getSensorManager();
+    const int index = factories_[static_cast<std::size_t>(selected)];
+    ISensorForwarderFactory* factory = sensors->getForwarderFactory(index);
+    if (factory->setup())
+        sensors->addSensorForwarder(index, factory->Create());
+    updateForwarderListBox();
+}
+
+void ForwarderWindow::remove() {
+    const irr::s32 selected = list("lforwarders")->getSelected();
+    if (selected < 0 || !askYesNo(*context_, L"Do you really want to remove the selected forwarder?"))
+        return;
+    context_->getSensorManager()->deleteSensorForwarder(selected);
+    updateForwarderListBox();
+}
+
+} // namespace skyvane

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "core/engine/EngineRef.h"
+#include "gui/windows/GUI.h"
+
+#include <irrlicht.h>
+#include <memory>
+
+namespace skyvane {
+
+class Context;
+
+/// A small window that a row of the menu opens beside the instruments, which go on: built from a pair of layout
+/// documents, open while it lives until isOpen() is false. Its layout has a button "bclose". Main thread only.
+class MenuWindow {
+public:
+    virtual ~MenuWindow();
+    MenuWindow(const MenuWindow&) = delete;
+    MenuWindow& operator=(const MenuWindow&) = delete;
+
+    bool isOpen() const { return open_; }
+    /// The events of the frame; true when this one was the window's.
+    bool processEvent(const irr::SEvent& event);
+    /// Once a frame.
+    virtual void update() {}
+    irr::gui::IGUIWindow* getWindow() const { return window_.get(); }
+
+protected:
+    /// The layouts are texts that end in a NUL.
+    MenuWindow(Context* context, const char* landscape, const char* portrait);
+
+    /// A GUI event of an element of the window.
+    virtual void onEvent(const irr::SEvent& event) = 0;
+    GUI& gui() { return *gui_; }
+    irr::gui::IGUIElement* element(const char* id) const { return gui_->getElement(id); }
+    irr::core::rect<int> getRect() const { return window_->getAbsolutePosition(); }
+
+    Context* context_;
+
+private:
+    bool isOwn(const irr::gui::IGUIElement* caller) const;
+
+    EngineRef<irr::gui::IGUIWindow> window_;
+    std::unique_ptr<GUI> gui_;
+    bool open_ = true;
+};
+
+} // namespace skyvane

@@ -1,0 +1,151 @@
+#include "core/time/Time.h"
+#include "displays/labels/ConcurrentRectangleGradientDescent.h"
+#include "displays/labels/OverlapPreventer.h"
+#include "displays/labels/RectangleGradientDescent.h"
+#include "displays/labels/RectangleQuadTree.h"
+#include "support/AllocationCounter.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+
+namespace skyvane {
+namespace {
+
+using Rect = irr::core::rect<double>;
+using Label = RectangleGradientDescent::Rectangle;
+
+constexpr unsigned Seed = 407;
+constexpr double Degree = 0.017453292519943295;
+const Rect Space(-3840.0, -2160.0, 3840.0, 2160.0);
+
+Label labelAt(double x, double y, double angle) {
+    return {{x, y}, {80.0, 20.0}, angle, {16.0, 16.0}, nullptr};
+}
+
+double overlaps(const RectangleGradientDescent& solver) {
+    double area = 0.0;
+    for (unsigned i = 0; i < solver.getRectangleCount(); ++i)
+        for (unsigned k = i + 1; k < solver.getRectangleCount(); ++k)
+            area += overlapOf(solver.getRectangle(i).second, solver.getRectangle(k).second);
+    return area;
+}
+
+TEST(RectangleQuadTree, findsWhatALookAtAllFinds) {
+    std::mt19937 random(Seed);
+    std::uniform_real_distribution<double> place(-6000.0, 6000.0), size(0.0, 300.0);
+    std::vector<Rect> all;
+    for (int i = 0; i < 800; ++i) {
+        const double x = place(random), y = place(random);
+        all.emplace_back(x, y, x + size(random), y + size(random));
+        if (i % 10 == 0)
+            all.push_back(all.back()); // twice in one place
+    }
+    RectangleQuadTree tree(Space);
+    for (int fill = 0; fill < 2; ++fill) {
+        tree.clear();
+        for (const Rect& each : all)
+            tree.insert(&each);
+    }
+    for (const Rect& query : all) {
+        double expected = 0.0;
+        for (const Rect& each : all)
+            expected += &each == &query ? 0.0 : overlapOf(each, query);
+        EXPECT_NEAR(tree.calcOverlappingArea(&query, query), expected, 1e-6);
+    }
+}
+
+TEST(RectangleQuadTree, endsWithPointsInOnePlaceAndWithNumbersThatAreNone) {
+    const Rect point(5.0, 5.0, 5.0, 5.0);
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const Rect none(nan, nan, nan, nan);
+    RectangleQuadTree tree(Space);
+    for (int i = 0; i < 100; ++i) {
+        tree.insert(&point);
+        tree.insert(&none);
+    }
+    EXPECT_EQ(tree.calcOverlappingArea(nullptr, Rect(0.0, 0.0, 10.0, 10.0)), 100 * 25.0);
+}
+
+TEST(OverlapOf, countsWhatReachesOverTheNearEdge) {
+    EXPECT_EQ(overlapOf({0, 0, 10, 10}, {5, 5, 20, 20}), 25.0);
+    EXPECT_EQ(overlapOf({0, 0, 10, 10}, {10, 0, 20, 10}), 0.0);
+    EXPECT_EQ(overlapOf({0, 0, 10, 10}, {2, 2, 4, 4}), 64.0) << "a rectangle within another";
+}
+
+TEST(RectangleGradientDescent, placesALabelOnItsOrbitAndInItsLimit) {
+    const Rect right = RectangleGradientDescent::convertToRect(labelAt(100.0, 50.0, 0.0), 0.0);
+    EXPECT_NEAR(right.UpperLeftCorner.X, 108.0, 1e-9) << "touches the symbol";
+    EXPECT_NEAR(right.getCenter().Y, 50.0, 1e-9);
+    const Rect above = RectangleGradientDescent::convertToRect(labelAt(100.0, 50.0, 0.0), 90.0 * Degree);
+    EXPECT_NEAR(above.LowerRightCorner.Y, 42.0, 1e-9);
+    const Rect limit(0.0, 0.0, 120.0, 60.0);
+    Label held = labelAt(100.0, 50.0, 0.0);
+    held.limit = &limit;
+    const Rect inside = RectangleGradientDescent::convertToRect(held, 0.0);
+    EXPECT_NEAR(inside.LowerRightCorner.X, 120.0, 1e-9);
+    EXPECT_NEAR(inside.getWidth(), 80.0, 1e-9);
+}
+
+TEST(RectangleGradientDescent, turnsNeighboursAwayFromEachOther) {
+    RectangleGradientDescent solver(Space);
+    EXPECT_TRUE(solver.optimize(1, Degree, 0.01, false)) << "nothing to do";
+    const auto* left = solver.addRectangle(labelAt(0.0, 0.0, 0.1));
+    EXPECT_TRUE(solver.optimize(1, Degree, 0.01, false)) << "one label";
+    EXPECT_FALSE(solver.optimize(0, Degree, 0.01, false));
+    const auto* right = solver.addRectangle(labelAt(10.0, 6.0, 0.1));
+    const double before = overlaps(solver);
+    const double angle = left->first.angle;
+    solver.optimize(1, Degree, 0.01, false);
+    EXPECT_NEAR(std::fabs(left->first.angle - angle), Degree / 2.0, 1e-9);
+    solver.optimize(400, Degree, 0.01, false);
+    EXPECT_GT(before, 500.0);
+    EXPECT_LT(overlaps(solver), 1.0);
+    EXPECT_GT(left->first.angle, right->first.angle) << "the upper one went up";
+}
+
+TEST(RectangleGradientDescent, clearsAMapAndAllocatesNothingOnceGrown) {
+    std::mt19937 random(Seed);
+    std::uniform_real_distribution<double> x(-600.0, 600.0), y(-350.0, 350.0), angle(0.0, 6.28);
+    RectangleGradientDescent solver(Space);
+    for (int i = 0; i < 60; ++i)
+        solver.addRectangle(labelAt(x(random), y(random), angle(random)));
+    const double before = overlaps(solver);
+    solver.optimize(400, Degree, 0.01, true);
+    EXPECT_LT(overlaps(solver), before * 0.35);
+    const AllocationCounter count;
+    solver.optimize(20, Degree, 0.01, true);
+    EXPECT_EQ(count.count(), 0u);
+}
+
+TEST(ConcurrentRectangleGradientDescent, runsBesideAndIsAborted) {
+    ConcurrentRectangleGradientDescent labels(Space);
+    labels.abort();
+    RectangleGradientDescent& solver = labels.getRectangleGradientDescent();
+    for (int i = 0; i < 200; ++i)
+        solver.addRectangle(labelAt(i % 3, i % 5, 0.1 * i));
+    ASSERT_TRUE(labels.start(4000000, Degree, 0.0, false));
+    EXPECT_TRUE(labels.isRunning());
+    EXPECT_FALSE(labels.start(1, Degree, 0.0, false));
+    labels.abort();
+    EXPECT_FALSE(labels.isRunning());
+    ASSERT_TRUE(labels.start(5, Degree, 0.01, false));
+    while (labels.isRunning())
+        Delay(1);
+}
+
+TEST(OverlapPreventer, pushesTheLighterOneFurther) {
+    OverlapPreventer preventer;
+    preventer.getRecords().emplace_back(Rect(0.0, 0.0, 40.0, 10.0), nullptr, 0, 4.0);
+    preventer.getRecords().emplace_back(Rect(30.0, 3.0, 70.0, 13.0), nullptr, 1, 1.0);
+    preventer.overlapSolver(100);
+    const OverlapRecord& heavy = preventer.getRecords().front();
+    const OverlapRecord& light = preventer.getRecords().back();
+    EXPECT_LT(overlapOf(heavy.rectangle, light.rectangle), 1.0);
+    EXPECT_LT(std::fabs(heavy.rectangle.UpperLeftCorner.Y), std::fabs(light.rectangle.UpperLeftCorner.Y - 3.0));
+    EXPECT_NEAR(light.rectangle.getWidth(), light.width, 1e-9);
+}
+
+} // namespace
+} // namespace skyvane
