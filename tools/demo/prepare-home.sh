@@ -2,7 +2,7 @@
 # prepare-home.sh BUILD HOME [CONFIG]: makes a home for the program beside a build.
 #
 # The program's home is the folder of the path it was started by, so a home is a folder with links to the binary and
-# the media. The data folders lie inside it too, and the documents are the standard ones but for CONFIG.
+# the media and the documentation. The data folders lie inside it too, and the documents are the standard ones but for CONFIG.
 set -euo pipefail
 build=$(cd "$1" && pwd)
 home=$2
@@ -14,6 +14,7 @@ mkdir -p "$home/data/Packages" "$home/customElements" "$home/Screenshots"
 home=$(cd "$home" && pwd)
 ln -sfn "$build/source/skyvane" "$home/skyvane"
 ln -sfn "$build/media" "$home/media"
+ln -sfn "$here/../../docs" "$home/docs"
 for document in aircrafts calibration extSensorConfig hotspot; do
     cp -n "$documents/$document.ini" "$home/data/$document.ini"
 done

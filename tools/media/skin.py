@@ -129,6 +129,22 @@ def rename_sign():
     return sign("M-34 34L-28 12L20-36L36-20L-12 28Z", 6) + sign("M8-24L24-8", 6)
 
 
+def inked(*paths, fill="none"):
+    """On the keys of the on-screen keyboard, which are light: black without an edge."""
+    return "".join(f'<path d="{path}" stroke-linecap="round" stroke-linejoin="round" fill="{fill}" '
+                   f'stroke="{DARK}" stroke-width="7"/>' for path in paths)
+
+
+def shift_sign(fill):
+    return inked("M0-36L32-2H14V28H-14V-2H-32Z", fill=fill)
+
+
+def change_sign():
+    """A small keyboard, and arrows around it."""
+    return inked("M-26-14H26V14H-26Z", "M-14-2H-13M0-2H1M14-2H15M-10 7H11") + \
+        inked("M-38 4V-28H30M20-38L32-28L20-18", "M38-4V28H-30M-20 38L-32 28L-20 18")
+
+
 BLACK = {"ink": DARK, "edge": WHITE}
 STEEL, STEEL_DOWN = ("#515e70", "#3a4553", "#313b48"), ("#17488a", "#1f5aa8", "#2667bd")
 PANES = {
@@ -157,6 +173,13 @@ SIGNS = {
     "menu": lambda: sign("M-30-22H30M-30 0H30M-30 22H30", 9),
     "bin": bin_sign, "rename": rename_sign,
     "cross": lambda: sign("M-24-24L24 24M24-24L-24 24", 10),
+    "shift": lambda: shift_sign("none"), "shift_on": lambda: shift_sign(DARK),
+    "arrow_left": lambda: inked("M34 0H-34M-12-22L-34 0L-12 22"),
+    "arrow_right": lambda: inked("M-34 0H34M12-22L34 0L12 22"),
+    "alpha_dot": lambda: inked("M-40-2V14H40V-2"),
+    "enter": lambda: inked("M34-26V8H-34M-14-12L-34 8L-14 28"),
+    "backspace": lambda: inked("M-40 0L-16-26H38V26H-16Z", "M0-11L22 11M22-11L0 11"),
+    "change": change_sign,
 }
 
 if __name__ == "__main__":

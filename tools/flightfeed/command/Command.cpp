@@ -7,6 +7,7 @@
 #include "flightfeed/flight/ScriptedFlight.h"
 #include "flightfeed/replay/CsvFlight.h"
 #include "flightfeed/replay/GzipFile.h"
+#include "flightfeed/send/StreamSenders.h"
 #include "flightfeed/send/UdpSender.h"
 
 #include <iostream>
@@ -92,6 +93,15 @@ int replay(const Options& options, IDatagramSink& sink, TruthPrinter* printer) {
     return fly(options, flight.get(), sink, printer);
 }
 
+std::unique_ptr<IDatagramSink> openSink(const Options& options, std::string& error) {
+    if (!options.pty.empty())
+        return PseudoTerminalSender::open(options.pty, error);
+    const int port = options.port > 0 ? options.port : options.protocol->port;
+    if (options.protocol->isStream)
+        return TcpServerSender::open(options.host, port, error);
+    return UdpSender::open(options.host, port, error);
+}
+
 } // namespace
 
 int runFlightFeed(const std::vector<std::string>& arguments) {
@@ -105,8 +115,7 @@ int runFlightFeed(const std::vector<std::string>& arguments) {
         std::cout << flightfeed_usage;
         return 0;
     }
-    const int port = options.port > 0 ? options.port : options.protocol->port;
-    const std::unique_ptr<UdpSender> sink = UdpSender::open(options.host, port, error);
+    const std::unique_ptr<IDatagramSink> sink = openSink(options, error);
     if (!sink) {
         complain(error);
         return 1;

@@ -1,6 +1,6 @@
 #include "flightfeed/command/Options.h"
 
-#include "flightfeed/text/StrictNumber.h"
+#include "core/text/StrictNumber.h"
 
 #include <cmath>
 #include <unordered_map>
@@ -51,6 +51,7 @@ const std::unordered_map<std::string, Setter> VALUES{
     {"--port", setPort},
     {"--speed", setSpeed},
     {"--host", [](Options& o, const std::string& t) { return setText(o.host, t); }},
+    {"--pty", [](Options& o, const std::string& t) { return setText(o.pty, t); }},
     {"--card", [](Options& o, const std::string& t) { return setText(o.card, t); }},
     {"--replay", [](Options& o, const std::string& t) { return setText(o.replay, t); }},
     {"--state", [](Options& o, const std::string& t) { return setText(o.state, t); }},
@@ -68,6 +69,8 @@ bool consistent(const Options& options, std::string& error) {
         error = "--card, --replay and --hold exclude each other";
     else if (!options.state.empty() && !options.hold)
         error = "--state needs --hold";
+    else if (!options.pty.empty() && !options.protocol->isStream)
+        error = "--pty needs --protocol nmea";
     return error.empty();
 }
 

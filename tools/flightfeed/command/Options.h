@@ -11,7 +11,8 @@ namespace skyvane {
 struct Options {
     const Protocol* protocol = findProtocol("flightgear");
     std::string host = "127.0.0.1";
-    int port = 0; ///< 0: the protocol's own
+    int port = 0;    ///< 0: the protocol's own
+    std::string pty; ///< the name of a pseudo-terminal in place of host and port
     double ratePerSecond = 30.0;
     double speed = 1.0;           ///< flight seconds per second; 0: as fast as it goes
     double durationSeconds = 0.0; ///< of the flight; 0: to its end

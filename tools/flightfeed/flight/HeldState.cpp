@@ -1,9 +1,9 @@
 #include "flightfeed/flight/HeldState.h"
 
+#include "core/text/StrictNumber.h"
 #include "flightfeed/flight/BodyFrame.h"
 #include "flightfeed/flight/StandardAtmosphere.h"
 #include "flightfeed/flight/Units.h"
-#include "flightfeed/text/StrictNumber.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "flightfeed/replay/CsvFlight.h"
 
+#include "core/text/StrictNumber.h"
 #include "flightfeed/flight/StandardAtmosphere.h"
 #include "flightfeed/flight/Units.h"
-#include "flightfeed/text/StrictNumber.h"
 
 #include <algorithm>
 #include <cmath>

@@ -10,8 +10,9 @@ namespace skyvane {
 /// A protocol as the command line names it.
 struct Protocol {
     const char* name;
-    int port; ///< where receivers listen
+    int port; ///< where receivers listen, or for a stream: where they connect to
     std::unique_ptr<IProtocolSender> (*make)();
+    bool isStream = false; ///< Bytes one after the other in place of datagrams.
 };
 
 /// Null when there is none of that name.
