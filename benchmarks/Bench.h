@@ -22,9 +22,18 @@ const std::string& benchBuildFolder();
 
 /// All figures, from the files beside this one.
 std::vector<Bench> recordBenches();
+std::vector<Bench> logBenches();
+std::vector<Bench> nmeaBenches();
 std::vector<Bench> frameBenches();
 std::vector<Bench> startBenches();
 std::vector<Bench> areaBenches();
+std::vector<Bench> dialogBenches();
+std::vector<Bench> chartBenches();
+std::vector<Bench> terrainBenches();
+std::vector<Bench> labelBenches();
+std::vector<Bench> gdl90Benches();
+std::vector<Bench> planBenches();
+std::vector<Bench> hypertextBenches();
 
 /// Seconds of one call.
 double secondsOf(const std::function<void()>& work);

@@ -1,120 +1,105 @@
-// A whole frame of the demo page with a flight coming in, against its quads drawn plainly.
+// Whole frames with a flight coming in, against their quads and texts drawn plainly: the demo's page of dials, and the
+// standard document's page of value fields and dials. Then how many texts are built in frames in which nothing changes.
 #include "Bench.h"
+#include "DemoProgram.h"
 #include "PlainPage.h"
 
 #include "core/Context.h"
-#include "core/FrameLoop.h"
-#include "core/engine/EngineRef.h"
-#include "core/time/Time.h"
+#include "core/files/StandardDocuments.h"
+#include "core/ini/IniFile.h"
+#include "core/text/Numbers.h"
+#include "displays/layout/PageLayout.h"
+#include "gui/font/FlexibleFont.h"
+#include "gui/menu/MenuBar.h"
 
-#include <GL/gl.h>
+#include <chrono>
 #include <cmath>
-#include <csignal>
-#include <cstdlib>
-#include <memory>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <thread>
 
 namespace skyvane {
 
 namespace {
 
-/// The program in a window of this process, its clock moved by hand: the pacer costs nothing.
-class DemoProgram {
-public:
-    explicit DemoProgram(const std::string& home) {
-        setClock(&clock_);
-        device_ = EngineRef<irr::IrrlichtDevice>::adopt(
-            irr::createDevice(irr::video::EDT_OPENGL, {1280, 720}, 32, false, true, false, nullptr));
-        if (!device_)
-            return;
-        device_->getLogger()->setLogLevel(irr::ELL_NONE);
-        context_ = std::make_unique<Context>(device_.get(), (home + "/skyvane").c_str(), true);
-        loop_ = std::make_unique<FrameLoop>(*context_);
-        plain_ = std::make_unique<PlainPage>(device_->getVideoDriver(), home + "/media/");
+constexpr int fieldFactory = 6;
+constexpr int fieldPage = 3;
+const char* const demoConfig = "tools/demo/config.ini";
+
+/// The first page of the document as plain pictures.
+void addPage(DemoProgram& program, IniFile& config) {
+    const PanelArea area = MenuBar::panelArea(program.getContext().getScreenMetrics());
+    for (const PageLayout::Panel& panel : PageLayout::read(config, area, false).panels) {
+        if (panel.page != 0)
+            continue;
+        if (panel.factoryIndex == fieldFactory)
+            program.getPlainPage().addField(panel.rect, program.getContext().getFlexibleFont());
+        else
+            program.getPlainPage().addPanel(panel.factoryIndex, panel.rect);
     }
-    ~DemoProgram() {
-        loop_.reset();
-        context_.reset();
-        device_.reset();
-        setClock(nullptr);
+}
+
+/// The demo's sensors with the page of fields and dials of the standard document as the only one.
+std::string writeFieldConfig() {
+    IniFile config(demoConfig), standard;
+    standard.setFromString(standardConfigINI);
+    for (int panel = 0; config.isSectionAvailable("P" + toText(panel)); ++panel)
+        config.removeSection("P" + toText(panel));
+    int count = 0;
+    const PageLayout pages = PageLayout::read(standard, {1280, 0, 720}, false);
+    for (const PageLayout::Panel& panel : pages.panels) {
+        if (panel.page != fieldPage)
+            continue;
+        const std::string section = "P" + toText(count++);
+        for (const char* key : {"FactoryIndex", "ViewPortSX", "ViewPortSY", "ViewPortTX", "ViewPortTY", "Type"})
+            config.set(section, key, standard.get(panel.section, key));
     }
+    config.set("", "PanelCount", toText(count));
+    const std::string path = benchBuildFolder() + "/bench-fields.ini";
+    return config.Save(path) ? path : std::string();
+}
 
-    bool isGood() const { return loop_ != nullptr; }
-
-    double frameSeconds() {
-        return secondsOf([this] {
-            loop_->runFrame();
-            glFinish();
-        });
-    }
-
-    double plainSeconds() {
-        irr::video::IVideoDriver* driver = device_->getVideoDriver();
-        return secondsOf([this, driver] {
-            device_->run();
-            driver->beginScene(true, true, irr::video::SColor(0xff000000));
-            plain_->draw();
-            driver->endScene();
-            glFinish();
-        });
-    }
-
-    /// Ends the box that the sensor shows at first.
-    void dismissBoxes() { device_->getGUIEnvironment()->clear(); }
-
-private:
-    ManualClock clock_;
-    EngineRef<irr::IrrlichtDevice> device_;
-    std::unique_ptr<Context> context_;
-    std::unique_ptr<FrameLoop> loop_;
-    std::unique_ptr<PlainPage> plain_;
-};
-
-/// flightfeed in real time, in the middle of its demo flight, while this lives.
-class Feeder {
-public:
-    explicit Feeder(const std::string& program) : process_(::fork()) {
-        if (process_ == 0) {
-            ::execl(program.c_str(), program.c_str(), "--from", "100", static_cast<char*>(nullptr));
-            ::_exit(127);
-        }
-    }
-    ~Feeder() {
-        if (process_ > 0) {
-            ::kill(process_, SIGTERM);
-            ::waitpid(process_, nullptr, 0);
-        }
-    }
-    Feeder(const Feeder&) = delete;
-    Feeder& operator=(const Feeder&) = delete;
-
-private:
-    pid_t process_;
-};
-
-double frameRatio(bool smoke) {
-    const std::string& build = benchBuildFolder();
-    const std::string home = build + "/bench-home";
-    if (std::system(("tools/demo/prepare-home.sh " + build + " " + home + " >/dev/null").c_str()) != 0)
-        return std::nan("");
-    DemoProgram program(home);
+double measurePage(const std::string& path, const std::function<double(DemoProgram&)>& measure) {
+    DemoProgram program(path);
     if (!program.isGood())
         return std::nan("");
-    program.frameSeconds();
-    program.dismissBoxes();
-    const int rounds = smoke ? 5 : 300;
-    const Feeder feeder(build + "/tools/flightfeed/flightfeed");
-    for (int i = 0; i < 30; ++i)
-        program.frameSeconds();
-    return ratioOfMedians(
-        rounds, [&program] { return program.frameSeconds(); }, [&program] { return program.plainSeconds(); });
+    IniFile config(path);
+    addPage(program, config);
+    program.begin();
+    return measure(program);
+}
+
+double dialFrames(bool smoke) {
+    return measurePage(demoConfig, [smoke](DemoProgram& program) { return frameRatio(program, smoke); });
+}
+
+double fieldFrames(bool smoke) {
+    return measurePage(writeFieldConfig(), [smoke](DemoProgram& program) { return frameRatio(program, smoke); });
+}
+
+/// Meshes and sizes of texts in frames that find the same data as the one before.
+double textBuilds(bool) {
+    return measurePage(writeFieldConfig(), [](DemoProgram& program) {
+        {
+            const Feeder feeder;
+            std::this_thread::sleep_for(std::chrono::seconds(1));
+            program.frameSeconds();
+        }
+        constexpr int settling = 3, watched = 10; // the data stays good meanwhile
+        for (int frame = 0; frame < settling; ++frame)
+            program.frameSeconds();
+        const FlexibleFont* font = program.getContext().getFlexibleFont();
+        const unsigned long before = font->getLayouts();
+        for (int frame = 0; frame < watched; ++frame)
+            program.frameSeconds();
+        return static_cast<double>(font->getLayouts() - before);
+    });
 }
 
 } // namespace
 
 std::vector<Bench> frameBenches() {
-    return {{"dials.frame", Bench::Bound::AtMost, 1.5, frameRatio}};
+    return {{"dials.frame", Bench::Bound::AtMost, 1.5, dialFrames},
+            {"fields.frame", Bench::Bound::AtMost, 2.0, fieldFrames},
+            {"text.rebuilds", Bench::Bound::AtMost, 0.0, textBuilds}};
 }
 
 } // namespace skyvane

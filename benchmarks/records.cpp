@@ -1,8 +1,8 @@
 // Allocations on the road of a record: its byte form, and a simulator's datagram from the socket to the record.
 #include "Bench.h"
+#include "QuietHost.h"
 
 #include "core/bytes/ByteWriter.h"
-#include "sensors/ISensorHost.h"
 #include "sensors/SensorManager.h"
 #include "sensors/StandardDataFactories.h"
 #include "sensors/records/Raw_Data.h"
@@ -23,15 +23,6 @@
 namespace skyvane {
 
 namespace {
-
-class QuietHost : public ISensorHost {
-public:
-    void pumpWindow() override {}
-    void showMessageBox(const std::string&) override {}
-    void setMessage(void*, const std::string&, MESSAGECOLOR, int) override {}
-    void removeMessage(void*) override {}
-    std::string getConfigPath() override { return {}; }
-};
 
 /// Records of variable length are measured with content.
 void fill(ISensorData& record) {

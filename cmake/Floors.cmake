@@ -2,14 +2,21 @@
 #
 # Folders named here compute, read or write. They include no engine header (core/geometry/EngineMath.h brings the
 # vector, rectangle and dimension types), open no window and reach no manager; they form the library skyvane_lower.
-# Every other folder below source/ belongs to skyvane_upper, which may include the engine.
+# Every other folder below source/ belongs to skyvane_upper, which may include the engine, and so do those of the second
+# list, which lie in one of the first.
 set(SKYVANE_LOWER_FLOOR
     core/bytes core/files core/geometry core/ini core/log core/messages core/text core/threads core/time
     sensors
     attitude/math
     chart/geodesy chart/names chart/elements chart/areas chart/store
-    displays/gauges displays/layout
-    gui/glyphs gui/layout gui/layoutmath)
+    procedures/course procedures/framework procedures/plan procedures/direct procedures/holding procedures/intercept
+    procedures/approach procedures/highway
+    terrain/files terrain/tree terrain/mesh terrain/jobs terrain/paging
+    displays/gauges displays/labels displays/layout
+    procedures/aircraft/profiles
+    gui/glyphs gui/hypertext/elements gui/hypertext/markup gui/hypertext/pages gui/keys gui/layout gui/layoutmath
+    gui/saves)
+set(SKYVANE_UPPER_WITHIN sensors/setup)
 
 # Collects the files of a tree into <lower_out> and <upper_out>, by folder.
 function(skyvane_split_floors root pattern lower_out upper_out)
@@ -22,6 +29,12 @@ function(skyvane_split_floors root pattern lower_out upper_out)
       string(FIND ${file} "${folder}/" position)
       if(position EQUAL 0)
         set(floor lower)
+      endif()
+    endforeach()
+    foreach(folder IN LISTS SKYVANE_UPPER_WITHIN)
+      string(FIND ${file} "${folder}/" position)
+      if(position EQUAL 0)
+        set(floor upper)
       endif()
     endforeach()
     list(APPEND ${floor} ${root}/${file})

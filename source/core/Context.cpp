@@ -1,7 +1,9 @@
 #include "core/Context.h"
 
 #include "chart/geodesy/ChartPosition.h"
+#include "chart/store/IChart.h"
 #include "core/Factories.h"
+#include "core/FrameLoop.h"
 #include "core/engine/LoadingProgressCallback.h"
 #include "core/engine/MissingFileScreen.h"
 #include "core/engine/Screenshot.h"
@@ -21,10 +23,16 @@
 #include "displays/materials/MaterialManager.h"
 #include "gui/font/BMFontLoader.h"
 #include "gui/font/FlexibleFontManager.h"
+#include "gui/input/InputSystem.h"
+#include "gui/sensors/ProfileScreen.h"
+#include "gui/sensors/SensorDialogs.h"
+#include "gui/sensors/WifiControl.h"
 #include "gui/skin/Skin.h"
 #include "gui/windows/CMBox.h"
-#include "procedures/NullProcedure.h"
+#include "procedures/ProcedureManager.h"
+#include "procedures/aircraft/AircraftManager.h"
 #include "sensors/SensorManager.h"
+#include "sensors/profiles/ProfileQuestion.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -83,8 +91,9 @@ Context::Context(irr::IrrlichtDevice* device, const char* argv0, bool full)
     logStep("cpp: Set Up Factories");
     loading.getProgress().nextStep();
     if (full) {
-        registerSensorFactories(*sensors_);
+        registerSensorFactories(*this, *sensors_);
         registerPanelFactories(*this, *panels_);
+        registerProcedureFactories(*this, *procedures_);
         loadSettings(config, loading.getProgress());
     }
     showStartMessages(!isCurrent);
@@ -93,9 +102,13 @@ Context::Context(irr::IrrlichtDevice* device, const char* argv0, bool full)
 Context::~Context() {
     device_->setEventReceiver(nullptr);
     panels_.reset();
+    procedures_.reset();
     sensors_.reset();
+    sensorDialogs_.reset();
+    wifi_.reset();
     drawer_.reset();
-    procedure_.reset();
+    input_.reset();
+    aircrafts_.reset();
     events_.reset();
     materials_.reset();
     // The skin holds on to a font, and the fonts go with their manager.
@@ -125,9 +138,13 @@ void Context::makeManagers(IniFile& config) {
     panels_ = std::make_unique<PanelManager>(this);
     logStep("cpp: Load Font");
     panels_->loadFontSettingsFromIni(&config);
+    wifi_ = std::make_unique<WifiControl>();
+    sensorDialogs_ = std::make_unique<SensorDialogs>(this, wifi_.get());
     sensors_ = std::make_unique<SensorManager>(this);
-    procedure_ = std::make_unique<NullProcedure>();
+    procedures_ = std::make_unique<ProcedureManager>(this);
     events_ = std::make_unique<EventReceiver>(this, EventCapacity);
+    input_ = std::make_unique<InputSystem>(this, keyBoardDefs, "media/change.png");
+    aircrafts_ = std::make_unique<AircraftManager>(this);
     materials_ = std::make_unique<MaterialManager>(this);
     drawer_->setMaterialType(materials_->getMaterialType("Alpha"));
     device_->setEventReceiver(events_.get());
@@ -136,8 +153,12 @@ void Context::makeManagers(IniFile& config) {
 void Context::loadSettings(IniFile& config, IProgressCallback& progress) {
     logStep("cpp: Load Settings");
     progress.nextStep();
+    input_->loadInputSettingsFromIni(&config);
     progress.nextStep();
-    sensors_->loadSensorSettingsFromIni(&config, true);
+    const bool asks = asksForProfile(config);
+    if (asks) // a start without the question doesn't wait for its pictures
+        registerSensorProfiles(*this, *sensors_);
+    sensors_->loadSensorSettingsFromIni(&config, asks);
     progress.nextStep();
     panels_->loadPanelSettingsFromIni(&config, &progress, true, false);
     progress.nextStep();
@@ -171,6 +192,18 @@ std::string Context::getConfigPath() {
     return getPath("data/config.ini");
 }
 
+IProcedure* Context::getCurrentProcedure() {
+    return procedures_ ? procedures_->getCurrentProcedure() : nullptr;
+}
+
+IChartElementSource* Context::getCharts() {
+    return panels_->getChart();
+}
+
+Aircraft& Context::getCurrentAircraft() {
+    return aircrafts_->getCurrentAircraft();
+}
+
 void Context::gotoURL(const std::string& url) {
     const int result = std::system(openUrlCommand(url).c_str());
     char text[48];
@@ -188,6 +221,14 @@ void Context::pumpWindow() {
 
 void Context::showMessageBox(const std::string& text) {
     (new CMBox(device_->getGUIEnvironment(), nullptr, decodeUtf8(text), L"Ok", L""))->drop();
+}
+
+void Context::chooseProfile(IniFile& document, const std::vector<std::unique_ptr<IConfigOverride>>& profiles) {
+    const auto ask = [&] { ProfileScreen(this, document, profiles).run(); };
+    if (frames_)
+        return ask();
+    const FrameLoop frames(*this); // at the start, where the program's own frames begin later
+    ask();
 }
 
 void Context::setMessage(void* owner, const std::string& text, MESSAGECOLOR level, int timeoutMilliseconds) {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "chart/elements/ElementFactory.h"
 #include "core/ICommonAppContext.h"
 #include "core/ScreenMetrics.h"
 #include "core/engine/EngineRef.h"
 #include "core/events/IEventHost.h"
 #include "core/system/FramePacer.h"
+#include "procedures/framework/IProcedureHost.h"
 #include "sensors/ISensorHost.h"
 
 #include <irrlicht.h>
@@ -14,23 +16,28 @@
 namespace skyvane {
 
 struct ChartPosition;
+class AircraftManager;
 class EventReceiver;
 class FlexibleFontManager;
 class IFrameRunner;
 class IProcedure;
 class IProgressCallback;
 class IniFile;
+class InputSystem;
 class Logger;
 class MaterialManager;
 class PanelManager;
+class ProcedureManager;
+class SensorDialogs;
 class SensorManager;
 class Skin;
 class SystemManager;
 class ThreadInfo;
+class WifiControl;
 
 /// The application: owns every manager, makes them in the order of need and ends them in reverse. Made by main, used
 /// on the main thread; other threads may read its pointers after construction and call getPath.
-class Context : public ICommonAppContext, public ISensorHost, public IEventHost {
+class Context : public ICommonAppContext, public ISensorHost, public IProcedureHost, public IEventHost {
 public:
     /// The device outlives the context. `full` false stops after the managers, before any factory is registered.
     Context(irr::IrrlichtDevice* device, const char* argv0, bool full);
@@ -49,12 +56,16 @@ public:
     void gotoURL(const std::string& url) override;
     void gotoLocationApp(const ChartPosition& position);
 
-    // ISensorHost
+    // ISensorHost; what asks for charts, sensors and the aircraft is IProcedureHost
     void pumpWindow() override;
     void showMessageBox(const std::string& text) override;
     void setMessage(void* owner, const std::string& text, MESSAGECOLOR level, int timeoutMilliseconds) override;
     void removeMessage(void* owner) override;
     std::string getConfigPath() override;
+    void chooseProfile(IniFile& document, const std::vector<std::unique_ptr<IConfigOverride>>& profiles) override;
+    IChartElementSource* getCharts() override;
+    SensorManager* getSensorManager() override { return sensors_.get(); }
+    Aircraft& getCurrentAircraft() override;
 
     const ScreenMetrics& getScreenMetrics() const { return metrics_; }
     bool isPortrait() const { return metrics_.portrait; }
@@ -62,13 +73,20 @@ public:
     double getScreenOrientationRoll(ThreadInfo*) const { return 0.0; }
 
     PanelManager* getPanelManager() { return panels_.get(); }
-    SensorManager* getSensorManager() { return sensors_.get(); }
+    SensorDialogs* getSensorDialogs() { return sensorDialogs_.get(); }
+    WifiControl* getWifiControl() { return wifi_.get(); }
+    AircraftManager* getAircraftManager() { return aircrafts_.get(); }
     MaterialManager* getMaterialManager() { return materials_.get(); }
     SystemManager* getSystemManager() { return system_.get(); }
+    /// One for each kind of chart element.
+    const ElementFactories& getChartElementFactories() const { return chartElementFactories_; }
     FlexibleFontManager* getFontManager() { return fontManager_.get(); }
     /// The procedure being flown; a NullProcedure without a flight plan. Never null.
-    IProcedure* getCurrentProcedure() { return procedure_.get(); }
+    IProcedure* getCurrentProcedure();
+    ProcedureManager* getProcedureManager() { return procedures_.get(); }
     EventReceiver* getEvents() { return events_.get(); }
+    /// Null until the managers stand.
+    InputSystem* getInputSystem() { return input_.get(); }
     Skin* getSkin() { return skin_; }
     /// Runs the frames of a dialog that waits (see ModalLoop); null before the first frame.
     IFrameRunner* getFrames() { return frames_; }
@@ -104,10 +122,15 @@ private:
     Skin* skin_ = nullptr;
     IFrameRunner* frames_ = nullptr;
     std::unique_ptr<Logger> logger_;
+    ElementFactories chartElementFactories_ = makeElementFactories();
     std::unique_ptr<PanelManager> panels_;
+    std::unique_ptr<WifiControl> wifi_;
+    std::unique_ptr<SensorDialogs> sensorDialogs_;
     std::unique_ptr<SensorManager> sensors_;
-    std::unique_ptr<IProcedure> procedure_;
+    std::unique_ptr<ProcedureManager> procedures_;
     std::unique_ptr<EventReceiver> events_;
+    std::unique_ptr<InputSystem> input_;
+    std::unique_ptr<AircraftManager> aircrafts_;
     std::unique_ptr<MaterialManager> materials_;
     FramePacer pacer_;
     bool shallExit_ = false;

@@ -1,5 +1,6 @@
 #include "core/Factories.h"
 
+#include "core/Context.h"
 #include "displays/PanelManager.h"
 #include "displays/instruments/AltimeterFactory.h"
 #include "displays/instruments/AttitudeIndicatorFactory.h"
@@ -12,24 +13,73 @@
 #include "displays/instruments/TurnRateIndicatorFactory.h"
 #include "displays/instruments/VerticalSpeedIndicatorFactory.h"
 #include "displays/instruments/WarningLampFactory.h"
+#include "gui/sensors/GDL90CalibrationWindow.h"
+#include "gui/sensors/SensorDialogs.h"
+#include "gui/sensors/WifiControl.h"
+#include "procedures/ProcedureManager.h"
+#include "procedures/approach/ApproachProcedureFactory.h"
+#include "procedures/direct/DirectProcedureFactory.h"
+#include "procedures/holding/HoldingProcedureFactory.h"
+#include "procedures/intercept/InterceptProcedureFactory.h"
 #include "sensors/SensorManager.h"
 #include "sensors/StandardDataFactories.h"
+#include "sensors/gdl90/GDL90SensorFactory.h"
+#include "sensors/log/LogFileForwarderFactory.h"
+#include "sensors/log/LogFileSensorFactory.h"
+#include "sensors/profiles/CustomConfig.h"
+#include "sensors/profiles/ExtGPSConfig.h"
+#include "sensors/profiles/FlightSimulatorConfig.h"
+#include "sensors/profiles/GLD90WeatherTraffic.h"
+#include "sensors/profiles/InternalGNSSConfig.h"
+#include "sensors/profiles/InternalSensorConfig.h"
+#include "sensors/profiles/LogFileConfig.h"
+#include "sensors/profiles/TalosConfig.h"
+#include "sensors/profiles/VelmarAvionicsTarnlinkConfig.h"
 #include "sensors/simulators/FlightGearSensorFactory.h"
 #include "sensors/simulators/XPlaneSensorFactory.h"
+#include "sensors/udp/UDPForwarderFactory.h"
+#include "sensors/udp/UDPSensorFactory.h"
 
 namespace skyvane {
 
-void registerSensorFactories(SensorManager& sensors) {
+void registerSensorFactories(Context& context, SensorManager& sensors) {
+    ISensorDialogs* dialogs = context.getSensorDialogs();
+    const std::string logFolder = context.getPath("Logs/");
     addStandardDataFactories(sensors);
     sensors.addSensorFactory(nullptr); // FlightStateIMUFactory
-    sensors.addSensorFactory(nullptr); // LogFileSensorFactory
-    sensors.addSensorFactory(nullptr); // UDPSensorFactory
+    sensors.addSensorFactory(std::make_unique<LogFileSensorFactory>(&sensors, dialogs, logFolder));
+    sensors.addSensorFactory(std::make_unique<UDPSensorFactory>(&sensors, dialogs));
     sensors.addSensorFactory(nullptr); // FlyBoxSensorFactory
     sensors.addSensorFactory(std::make_unique<FlightGearSensorFactory>(&sensors));
     sensors.addSensorFactory(std::make_unique<XPlaneSensorFactory>(&sensors));
-    sensors.addSensorFactory(nullptr);          // GDL90SensorFactory
-    sensors.addSensorForwarderFactory(nullptr); // LogFileForwarderFactory
-    sensors.addSensorForwarderFactory(nullptr); // UDPForwarderFactory
+    sensors.addSensorFactory(std::make_unique<GDL90SensorFactory>(
+        &sensors, dialogs, [&context](GDL90Sensor& sensor) { GDL90CalibrationWindow(context, sensor).run(); }));
+    sensors.addSensorForwarderFactory(std::make_unique<LogFileForwarderFactory>(&sensors, dialogs, logFolder));
+    sensors.addSensorForwarderFactory(
+        std::make_unique<UDPForwarderFactory>(&sensors, dialogs, context.getWifiControl()));
+}
+
+void registerSensorProfiles(Context& context, SensorManager& sensors) {
+    // No driver fills the device's own sensors on this platform.
+    const DeviceSensors device;
+    const auto parts = [&](const char* icon) {
+        irr::video::IVideoDriver* driver = context.getIrrlichtDevice()->getVideoDriver();
+        return ProfileParts{&sensors, context.getSensorDialogs(), device,
+                            driver->getTexture(context.getPath(icon).c_str())};
+    };
+    const auto add = [&sensors](std::unique_ptr<IConfigOverride> profile) {
+        sensors.addSensorConfigOverride(std::move(profile));
+    };
+    add(std::make_unique<InternalSensorConfig>(parts("media/tabletIcon.png")));
+    add(std::make_unique<InternalGNSSConfig>(parts("media/gnssIcon.png")));
+    add(std::make_unique<VelmarAvionicsTarnlinkConfig>(parts("media/tarnlinkIcon.png")));
+    add(std::make_unique<ExtGPSConfig>(parts("media/extIcon.png")));
+    add(std::make_unique<TalosConfig>(parts("media/talosIcon.png")));
+    add(std::make_unique<GDL90Config>(parts("media/gdl90Icon.png")));
+    add(std::make_unique<GLD90WeatherTraffic>(parts("media/combinationIcon.png")));
+    add(std::make_unique<LogFileConfig>(parts("media/file.png")));
+    add(std::make_unique<FlightSimulatorConfig>(parts("media/gamepadIcon.png")));
+    add(std::make_unique<CustomConfig>(context.getSensorDialogs()));
 }
 
 void registerPanelFactories(Context& context, PanelManager& panels) {
@@ -51,6 +101,13 @@ void registerPanelFactories(Context& context, PanelManager& panels) {
     panels.addPanelFactory(nullptr); // DetailsPanelFactory
     panels.addPanelFactory(nullptr); // SideViewPanelFactory
     panels.addPanelFactory(nullptr); // GlideInfoPanelFactory
+}
+
+void registerProcedureFactories(Context& context, ProcedureManager& procedures) {
+    procedures.addProcedureFactory(std::make_unique<DirectProcedureFactory>(&context));
+    procedures.addProcedureFactory(std::make_unique<HoldingProcedureFactory>(&context));
+    procedures.addProcedureFactory(std::make_unique<ApproachProcedureFactory>(&context));
+    procedures.addProcedureFactory(std::make_unique<InterceptProcedureFactory>(&context));
 }
 
 } // namespace skyvane

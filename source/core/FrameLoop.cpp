@@ -6,8 +6,11 @@
 #include "core/log/Logger.h"
 #include "core/time/Time.h"
 #include "displays/PanelManager.h"
+#include "gui/input/InputSystem.h"
 #include "gui/skin/Skin.h"
+#include "procedures/ProcedureManager.h"
 #include "sensors/SensorManager.h"
+#include "terrain/TerrainManager.h"
 
 #include <cwchar>
 
@@ -33,8 +36,10 @@ EventReceiver* FrameLoop::getEvents() {
 }
 
 void FrameLoop::run() {
-    while (runFrame()) {
-    }
+    do {
+        if (TerrainManager* terrain = context_.getPanelManager()->getTerrainManager())
+            terrain->dirtyCheck(false);
+    } while (runFrame());
     if (!stats_.write())
         logText("The frame statistics can't be written.\n");
 }
@@ -45,6 +50,7 @@ bool FrameLoop::runFrame(const ModalFrame* modal) {
         return false;
     pumpOwnEvents();
     context_.getSensorManager()->Update();
+    context_.getProcedureManager()->Update(false);
     dispatchEvents(modal);
     stats_.pauseFrame();
     context_.yieldWhileInactive();
@@ -83,7 +89,10 @@ void FrameLoop::draw(const ModalFrame* modal) {
     if (!isPlain)
         context_.getPanelManager()->Render();
     device_->getGUIEnvironment()->drawAll();
+    if (!isPlain)
+        context_.getPanelManager()->renderInMenuPreview();
     context_.getPanelManager()->RenderAfterGUI();
+    context_.getInputSystem()->render();
     if (context_.getPanelManager()->isDrawFPS())
         drawFrameRate();
     context_.saveWantedScreenshot();

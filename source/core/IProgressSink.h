@@ -11,6 +11,8 @@ public:
     virtual void setTitle(const std::string& title) = 0;
     /// The share done, 0 to 1.
     virtual void setProgress(double share) = 0;
+    /// The work shall end as soon as it can; what it hasn't finished is done another time.
+    virtual bool isCancelled() { return false; }
     virtual ~IProgressSink() = default;
 };
 

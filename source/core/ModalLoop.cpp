@@ -4,11 +4,16 @@
 
 namespace skyvane {
 
-ModalLoop::ModalLoop(IFrameRunner& frames, ModalFrame modal) : frames_(frames), modal_(std::move(modal)) {
+ModalLoop::ModalLoop(IFrameRunner& frames, ModalFrame modal)
+    : frames_(frames), outer_(frames.innermost_), modal_(std::move(modal)) {
+    if (outer_ && outer_->modal_.backdrop == ModalFrame::Backdrop::Grey)
+        modal_.backdrop = ModalFrame::Backdrop::Grey;
+    frames_.innermost_ = this;
     dropEvents();
 }
 
 ModalLoop::~ModalLoop() {
+    frames_.innermost_ = outer_;
     dropEvents();
 }
 

@@ -6,6 +6,7 @@
 namespace skyvane {
 
 class EventReceiver;
+class ModalLoop;
 
 /// What a modal loop changes about a frame.
 struct ModalFrame {
@@ -26,10 +27,15 @@ public:
     /// frame of the panels.
     virtual bool runFrame(const ModalFrame* modal) = 0;
     virtual EventReceiver* getEvents() = 0;
+
+private:
+    friend class ModalLoop;
+    const ModalLoop* innermost_ = nullptr; ///< The loop that waits; null for none.
 };
 
 /// Keeps the program alive while a dialog waits for its answer: sensors, events, pacer and drawing go on, frame by
-/// frame. Every dialog waits with this one; loops may be nested, and the innermost gets the events.
+/// frame. Every dialog waits with this one; loops may be nested: the innermost gets the events, and a plain backdrop of
+/// an outer one stays.
 ///
 ///     ModalLoop loop(*context->getFrames(), {[&](const irr::SEvent& event) { dialog.processEvent(event); }});
 ///     if (loop.run([&] { return dialog.isVisible(); })) ... the user has answered ...
@@ -53,6 +59,7 @@ private:
     void dropEvents();
 
     IFrameRunner& frames_;
+    const ModalLoop* const outer_;
     ModalFrame modal_;
 };
 

@@ -8,12 +8,14 @@
 #include "core/time/Time.h"
 
 #include <csignal>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
 #include <irrlicht.h>
 #include <malloc.h>
 #include <memory>
+#include <sys/mman.h>
 
 using namespace skyvane;
 
@@ -64,6 +66,17 @@ void keepLargeBlocksInHeap() {
     mallopt(M_TRIM_THRESHOLD, bytes);
 }
 
+/// Asks for the first part of the heap in large pages: touching thousands of small ones takes a good part of the start.
+/// Where the kernel grants none, nothing is lost.
+void askForLargePages() {
+    constexpr std::uintptr_t bytes = 60 << 20, largePage = 2 << 20;
+    void* heap = std::malloc(bytes + largePage);
+    const std::uintptr_t first = (reinterpret_cast<std::uintptr_t>(heap) + largePage - 1) & ~(largePage - 1);
+    if (heap)
+        madvise(reinterpret_cast<void*>(first), bytes, MADV_HUGEPAGE);
+    std::free(heap);
+}
+
 /// Why no window came, in words for the user.
 int reportNoWindow() {
     std::fprintf(stderr, "Skyvane: no OpenGL window could be opened. Check that the graphics driver offers OpenGL 2 "
@@ -93,6 +106,7 @@ int runProgram(const CommandLine& line, const char* argv0) {
 
 int main(int argc, char** argv) {
     keepLargeBlocksInHeap();
+    askForLargePages();
     const CommandLine line = parseCommandLine(argc, argv);
     if (line.kind == CommandLine::Bad)
         std::fprintf(stderr, "Skyvane: %s\n", line.trouble.c_str());

@@ -43,8 +43,9 @@ class Cockpit:
         self.arguments = [str(size[0]), str(size[1])] if arguments is None else arguments
         self.folder = tempfile.mkdtemp(prefix='skyvane-ui-')
         self.home = os.path.join(self.folder, 'home')
-        # A first start takes SKYVANE_DATA_ROOT for its data without asking.
-        self.environment = dict(os.environ, HOME=self.folder, SKYVANE_DATA_ROOT=self.folder, LIBGL_ALWAYS_SOFTWARE='1')
+        # A first start takes SKYVANE_DATA_ROOT for its data without asking, and no start asks for a sensor profile.
+        self.environment = dict(os.environ, HOME=self.folder, SKYVANE_DATA_ROOT=self.folder, SKYVANE_CHOOSE_PROFILE='0',
+                                LIBGL_ALWAYS_SOFTWARE='1')
         self.environment.update(environment or {})
         self.processes = []
         self.make_home(config)
@@ -157,14 +158,14 @@ class Cockpit:
         os.makedirs(folder, exist_ok=True)
         Image.fromarray(pixels).save(os.path.join(folder, name + '.png'))
 
-    def key(self, name):
+    def key(self, name, pause=0.05):
         code = self.display.keysym_to_keycode(XK.string_to_keysym(name))
         assert code, 'no key ' + name
         self.focus()
         for kind in (X.KeyPress, X.KeyRelease):
             xtest.fake_input(self.display, kind, code)
             self.display.sync()
-            time.sleep(0.05)
+            time.sleep(pause)
 
     def focus(self):
         self.find_window().set_input_focus(X.RevertToParent, X.CurrentTime)

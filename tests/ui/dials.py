@@ -10,8 +10,13 @@ FACE = 0.839344262295082
 HALF_DRAWING = 500.0  # a face drawing's radius in its own units
 
 
+def panel_area(size):
+    """What the menu's bar leaves of a window."""
+    return size[0], size[1] - int(0.049410625 * math.sqrt(size[0] * size[1]) + 0.5)
+
+
 class Dial:
-    """The square of a dial in the window. `place`: its rectangle as fractions (left, top, right, bottom)."""
+    """The square of a dial in an area. `place`: its rectangle as fractions (left, top, right, bottom)."""
 
     def __init__(self, place, size):
         left, top, right, bottom = (place[0] * size[0], place[1] * size[1], place[2] * size[0], place[3] * size[1])

@@ -12,9 +12,10 @@ def first_start(build, size):
 
 
 def inside(size, x, y):
-    """Pixels of a point of the dialog, which is 16:9 and centred."""
-    width = min(size[0], size[1] * 1.77778)
-    height = width / 1.77778
+    """Pixels of a point of the dialog, which has one of two ratios and is centred."""
+    ratio = 1.77778 if size[0] >= size[1] else 0.5625
+    width = min(size[0], size[1] * ratio)
+    height = width / ratio
     return (size[0] - width) / 2 + x * width, (size[1] - height) / 2 + y * height
 
 
@@ -23,7 +24,7 @@ def wait_for_dialog(cockpit, size):
     cockpit.wait(cockpit.find_window, 60, 'the window')
 
     def shown():
-        x, y = inside(size, 0.43, 0.90)
+        x, y = inside(size, 0.43, 0.92)
         return cockpit.look()[int(y), int(x)].max() > 25
     cockpit.wait(shown, 30, 'the dialog')
     time.sleep(0.3)
@@ -35,7 +36,7 @@ def test_the_first_start_asks_for_the_data_location(build):
             wait_for_dialog(cockpit, size)
             cockpit.save(cockpit.look(), 'data-location-%dx%d' % size)
             assert not os.path.exists(cockpit.path('data', 'data.ini'))
-            cockpit.click(*inside(size, 0.50, 0.90))
+            cockpit.click(*inside(size, 0.50, 0.92))
             cockpit.wait_for_window()
             data = read_ini(cockpit.path('data', 'data.ini'))['']
             for key in ('Backgrounds', 'Terrain', 'Data', 'Logs'):
@@ -57,7 +58,7 @@ def test_another_folder_can_be_chosen_for_one_kind_of_data(build):
         cockpit.click(*inside(size, 0.48, row))
         time.sleep(0.4)
         cockpit.save(cockpit.look(), 'data-location-chosen')
-        cockpit.click(*inside(size, 0.50, 0.90))
+        cockpit.click(*inside(size, 0.50, 0.92))
         cockpit.wait_for_window()
         data = read_ini(cockpit.path('data', 'data.ini'))['']
         assert data['Data'] == cockpit.folder + '/'
@@ -75,6 +76,6 @@ def test_closing_the_window_in_place_of_an_answer_asks_again(build):
         assert not os.path.exists(cockpit.path('data', '2.9_data_created'))
         cockpit.start()
         wait_for_dialog(cockpit, size)
-        cockpit.click(*inside(size, 0.50, 0.90))
+        cockpit.click(*inside(size, 0.50, 0.92))
         cockpit.wait_for_window()
         assert cockpit.close() == 0

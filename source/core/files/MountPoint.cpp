@@ -31,11 +31,19 @@ std::string decodeOctalEscapes(const std::string& text) {
     return result;
 }
 
+// What the kernel shows of itself, and what is gone after a restart.
+bool isOfTheSystem(const std::string& path) {
+    for (const char* folder : {"/run/", "/proc/", "/sys/", "/dev/"})
+        if ((path + "/").rfind(folder, 0) == 0)
+            return true;
+    return false;
+}
+
 // A single file can be a mount too, and takes no data.
 bool isUsable(const std::string& path) {
     struct stat status;
-    return path.compare(0, 5, "/run/") != 0 && access(path.c_str(), R_OK | W_OK) == 0 &&
-           stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+    return !isOfTheSystem(path) && access(path.c_str(), R_OK | W_OK) == 0 && stat(path.c_str(), &status) == 0 &&
+           S_ISDIR(status.st_mode);
 }
 
 } // namespace
@@ -75,7 +83,7 @@ std::list<MountPoint> getUsableMountPoints() {
     std::list<MountPoint> points;
     for (const std::string& path : parseMountPaths(mounts))
         if (isUsable(path))
-            if (auto point = measureMountPoint(path))
+            if (auto point = measureMountPoint(path); point && point->totalBytes > 0)
                 points.push_back(*point);
     points.sort(mountpointGeq);
     return points;

@@ -24,7 +24,8 @@ std::vector<std::string> parseMountPaths(const std::string& mounts);
 /// The folder with the room on its file system, named as its path; nothing when the system can't tell.
 std::optional<MountPoint> measureMountPoint(const std::string& path);
 
-/// The mounted folders that can be read and written and don't lie below /run/, most room first.
+/// The mounted folders that can be read and written and have room of their own, most room first; none of the system's
+/// own in /run, /proc, /sys and /dev.
 std::list<MountPoint> getUsableMountPoints();
 
 } // namespace skyvane

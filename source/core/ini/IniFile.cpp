@@ -1,5 +1,6 @@
 #include "core/ini/IniFile.h"
 
+#include "core/files/SafeFile.h"
 #include "core/ini/IniEscapes.h"
 #include "core/ini/IniIterator.h"
 #include "core/ini/IniParser.h"
@@ -108,13 +109,7 @@ void IniFile::Print() const {
 }
 
 bool IniFile::Save(const std::string& path) const {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    if (!out.is_open())
-        return false;
-    const std::string text = toString();
-    out.write(text.data(), static_cast<std::streamsize>(text.size()));
-    out.close();
-    return out.good();
+    return saveFileSafely(path, toString()) == 0;
 }
 
 std::unique_ptr<IniIterator> IniFile::newIterator() const {

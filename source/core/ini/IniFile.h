@@ -37,7 +37,8 @@ public:
 
     std::string toString() const;
     void Print() const;
-    /// Writes the text form over the file. False when it can't be opened, or its closing fails.
+    /// Replaces the file by the text form, in one step (saveFileSafely). False when it can't; the former file stands
+    /// then.
     bool Save(const std::string& path) const;
 
     /// Walks this document, which must outlive the iterator and stay unchanged meanwhile.
