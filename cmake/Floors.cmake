@@ -10,7 +10,7 @@ set(SKYVANE_LOWER_FLOOR
     attitude/math
     chart/geodesy chart/names chart/elements chart/areas chart/store
     procedures/course procedures/framework procedures/plan procedures/direct procedures/holding procedures/intercept
-    procedures/approach procedures/highway
+    procedures/approach procedures/highway procedures/preview
     terrain/files terrain/tree terrain/mesh terrain/jobs terrain/paging
     displays/gauges displays/labels displays/layout displays/mapmath
     procedures/aircraft/profiles

@@ -17,10 +17,10 @@
 #include "gui/sensors/SensorDialogs.h"
 #include "gui/sensors/WifiControl.h"
 #include "procedures/ProcedureManager.h"
-#include "procedures/approach/ApproachProcedureFactory.h"
-#include "procedures/direct/DirectProcedureFactory.h"
-#include "procedures/holding/HoldingProcedureFactory.h"
-#include "procedures/intercept/InterceptProcedureFactory.h"
+#include "procedures/dialogs/ApproachSetup.h"
+#include "procedures/dialogs/DirectSetup.h"
+#include "procedures/dialogs/HoldingSetup.h"
+#include "procedures/dialogs/InterceptSetup.h"
 #include "sensors/SensorManager.h"
 #include "sensors/StandardDataFactories.h"
 #include "sensors/gdl90/GDL90SensorFactory.h"
@@ -104,10 +104,10 @@ void registerPanelFactories(Context& context, PanelManager& panels) {
 }
 
 void registerProcedureFactories(Context& context, ProcedureManager& procedures) {
-    procedures.addProcedureFactory(std::make_unique<DirectProcedureFactory>(&context));
-    procedures.addProcedureFactory(std::make_unique<HoldingProcedureFactory>(&context));
-    procedures.addProcedureFactory(std::make_unique<ApproachProcedureFactory>(&context));
-    procedures.addProcedureFactory(std::make_unique<InterceptProcedureFactory>(&context));
+    procedures.addProcedureFactory(std::make_unique<DirectSetup>(context));
+    procedures.addProcedureFactory(std::make_unique<HoldingSetup>(context));
+    procedures.addProcedureFactory(std::make_unique<ApproachSetup>(context));
+    procedures.addProcedureFactory(std::make_unique<InterceptSetup>(context));
 }
 
 } // namespace skyvane

@@ -78,7 +78,7 @@ void FrameLoop::dispatchEvents(const ModalFrame* modal) {
         const irr::SEvent event = events->popEvent();
         if (!modal)
             panels->processEvent(event);
-        else if (!panels->processMessageBoxEvent(event) && modal->onEvent)
+        else if (!panels->processEventOverDialog(event) && modal->onEvent)
             modal->onEvent(event);
     }
 }

@@ -15,6 +15,7 @@
 #include "gui/hypertext/ManualWindow.h"
 #include "gui/input/InputSystem.h"
 #include "gui/menu/Menu.h"
+#include "procedures/dialogs/SearchBoxHandler.h"
 #include "terrain/TerrainManager.h"
 
 #include <algorithm>
@@ -52,8 +53,8 @@ bool isVisibleAt(const irr::gui::IGUIElement* element, irr::core::vector2d<int> 
 } // namespace
 
 PanelManager::PanelManager(Context* context)
-    : context_(context), messageBox_(makeMessageBox(context)),
-      targets_(context->getIrrlichtDevice()->getVideoDriver()) {
+    : context_(context), messageBox_(makeMessageBox(context)), targets_(context->getIrrlichtDevice()->getVideoDriver()),
+      searchBox_(std::make_unique<SearchBoxHandler>(context)) {
     const PanelArea area = panelArea();
     fullRect_ = irr::core::rect<int>(0, area.top, area.width, area.bottom);
     clearNonMessageYArea();
@@ -164,8 +165,8 @@ void PanelManager::renderPagePreview(irr::core::rect<int> rect, int pageOffset) 
 
 bool PanelManager::processEvent(irr::SEvent event) {
     // The menu's answer may be to load the panels, and itself, anew.
-    if (processMessageBoxEvent(event) || processOverlayEvent(event) || processManualEvent(event) ||
-        (menu_ && !menu_->processEvent(event)) || processPageKey(event))
+    if (processEventOverDialog(event) || processManualEvent(event) || (menu_ && !menu_->processEvent(event)) ||
+        processPageKey(event))
         return false;
     if (locked_ && isPointer(event))
         return false;
@@ -173,6 +174,10 @@ bool PanelManager::processEvent(irr::SEvent event) {
         isVisibleGUIElementAt(irr::core::vector2d<int>(event.MouseInput.X, event.MouseInput.Y)))
         return false;
     return offerToPanels(event);
+}
+
+bool PanelManager::processEventOverDialog(const irr::SEvent& event) {
+    return processMessageBoxEvent(event) || processOverlayEvent(event);
 }
 
 bool PanelManager::processMessageBoxEvent(const irr::SEvent& event) {
@@ -211,7 +216,7 @@ void PanelManager::setManualVisible(const std::string& page) {
 }
 
 void PanelManager::blockForManualExit() {
-    const auto onEvent = [this](const irr::SEvent& event) { processOverlayEvent(event) || processManualEvent(event); };
+    const auto onEvent = [this](const irr::SEvent& event) { processManualEvent(event); };
     ModalLoop(*context_->getFrames(), {onEvent}).run([this] { return isManualVisible(); });
     closeManual();
 }

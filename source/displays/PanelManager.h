@@ -24,6 +24,7 @@ class ManualWindow;
 class Menu;
 class MessageBoxView;
 class OverlayInstruments;
+class SearchBoxHandler;
 class TerrainManager;
 
 /// Owns the panels and their pages, the order in which they are drawn and offered events, the message box, the shared
@@ -56,8 +57,9 @@ public:
     void renderPagePreview(irr::core::rect<int> rect, int pageOffset);
     /// False when the event was consumed.
     bool processEvent(irr::SEvent event);
-    /// The part of it that dismisses a message: true when the event was that. For frames whose events a dialog takes.
-    bool processMessageBoxEvent(const irr::SEvent& event);
+    /// The part of it for what lies over dialogs too, a message that is dismissed and an overlay that is tapped: true
+    /// when the event was that. For frames whose events a dialog takes.
+    bool processEventOverDialog(const irr::SEvent& event);
 
     void nextPage();
     void previousPage();
@@ -135,6 +137,8 @@ public:
     IChart* getChart() const;
     /// The chart's; null without one.
     TerrainManager* getTerrainManager() const;
+    /// Never null; of the window that asks for a destination now.
+    SearchBoxHandler* getSearchBoxHandler() const { return searchBox_.get(); }
 
 private:
     struct LoadedPanel {
@@ -154,6 +158,7 @@ private:
     void renderPage();
     void renderPageNumber();
     void notePage();
+    bool processMessageBoxEvent(const irr::SEvent& event);
     bool processOverlayEvent(const irr::SEvent& event);
     bool processManualEvent(const irr::SEvent& event);
     void closeManual();
@@ -193,6 +198,7 @@ private:
     std::unique_ptr<MessageBoxView> messageBox_;
     RenderTargetPool targets_;
     std::unique_ptr<OverlayInstruments> overlays_; ///< While panels are loaded.
+    std::unique_ptr<SearchBoxHandler> searchBox_;
 };
 
 } // namespace skyvane

@@ -9,6 +9,7 @@
 #include "core/text/Numbers.h"
 #include "core/time/Time.h"
 #include "displays/PanelManager.h"
+#include "procedures/dialogs/ChooseProcedureScreen.h"
 #include "procedures/framework/FlightReadings.h"
 #include "sensors/SensorManager.h"
 #include "terrain/TerrainManager.h"
@@ -226,6 +227,10 @@ void ProcedureManager::OnHeightPoints(PointCall& call) {
         paintSideProfile(*profile_, SideViewRows, static_cast<uint32_t*>(pixels));
         sideTexture_->unlock();
     }
+}
+
+bool ProcedureManager::newProcedure(const IChartElement* element, int id, bool keepsProcedure) {
+    return ChooseProcedureScreen(*context_, element, id, keepsProcedure).run();
 }
 
 void ProcedureManager::insertFlightPlan(const std::string& name) {

@@ -15,6 +15,7 @@
 namespace skyvane {
 
 class Context;
+class IChartElement;
 struct FlightReadings;
 
 /// The flight plan of the running program: keeps the current procedure told of the flight, moves on to the next one,
@@ -35,6 +36,7 @@ public:
     IProcedureFactory* getProcedureFactory(int index) const;
     int getProcedureFactoryCount() const { return static_cast<int>(factories_.size()); }
     IProcedureFactory* findProcedureFactorybyType(IProcedure::Type type) const;
+    const ProcedureFactories& getProcedureFactories() const { return factories_; }
 
     // See FlightPlan. The panels hear of each; paths are made anew by calculateCourseList.
     void addProcedure(std::unique_ptr<IProcedure> procedure);
@@ -60,6 +62,11 @@ public:
     bool calculateCourseList();
     /// Every frame. The highway follows at most twice a second, and at once when forced.
     void Update(bool force);
+
+    /// Asks the pilot for a destination and what to fly there, over the whole glass, and waits for it: true when a
+    /// procedure went into the plan after the current one, and is current now. Begins with that element of the charts,
+    /// used before their next call only, or with what the current procedure leads to; see SearchBoxHandler::init.
+    bool newProcedure(const IChartElement* element = nullptr, int id = 0, bool keepsProcedure = false);
 
     /// Stores the plan under that name in the document of saved plans.
     void insertFlightPlan(const std::string& name);

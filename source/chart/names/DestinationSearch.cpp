@@ -87,4 +87,14 @@ std::string DestinationSearch::distanceText(const std::optional<ChartPosition>& 
            "\nBearing [°]: " + toText(roundHalfAway(bearing));
 }
 
+std::string DestinationSearch::hintText(const std::string& text) {
+    if (text.empty())
+        return "Type an identifier or a name, or press \"Recent\" or \"Nrst\".";
+    if (text == RecentText)
+        return "No destination was chosen so far.";
+    if (text == NearestText)
+        return "No airport within " + toText(farthestNauticalMiles) + " NM.";
+    return "Nothing found yet: type more letters.";
+}
+
 } // namespace skyvane

@@ -35,6 +35,10 @@ bool hasOtherProcedures(Context& context) {
     return context.getProcedureManager()->getProcedureCount() > 1;
 }
 
+void planProcedure(Context& context) {
+    context.getProcedureManager()->newProcedure();
+}
+
 void flyNextProcedure(Context& context) {
     context.getProcedureManager()->nextProcedure();
     context.getProcedureManager()->calculateCourseList();
@@ -106,6 +110,7 @@ void exitProgram(Context& context) {
 
 const std::vector<MenuRow>& menuRows() {
     static const std::vector<MenuRow> rows = {
+        {L"New Procedure", "blueRow", planProcedure},
         {L"Proc. >", "blueRow", flyNextProcedure, hasOtherProcedures},
         {L"< Proc.", "blueRow", flyPreviousProcedure, hasOtherProcedures},
         {L"Refresh", "blueRow", refreshFlightPlan, hasFlightPlan},

@@ -22,6 +22,8 @@ void GeneralProcedureFactory::writeGeneralValues(IProcedure* procedure) {
     values.targetGroundSpeed = general_.approximateGroundSpeed;
     values.positionTolerance = general_.positionTolerance * MetresPerFoot;
     values.altitudeTolerance = general_.altitudeTolerance * MetresPerFoot;
+    if (general_.targetAltitude)
+        values.targetAltitude = *general_.targetAltitude * MetresPerFoot;
     values.checkAltitude = true;
     values.checkCourse = true;
     values.checkGroundSpeed = false;

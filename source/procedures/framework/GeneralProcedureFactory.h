@@ -2,6 +2,8 @@
 
 #include "procedures/framework/IProcedureFactory.h"
 
+#include <optional>
+
 namespace skyvane {
 
 class IProcedureHost;
@@ -10,10 +12,11 @@ class IProcedureHost;
 class GeneralProcedureFactory : public IProcedureFactory {
 public:
     struct GeneralValues {
-        double targetTurnRate = 2.5;      ///< degrees per second
-        int approximateGroundSpeed = 120; ///< knots
-        int positionTolerance = 50;       ///< feet
-        int altitudeTolerance = 50;       ///< feet
+        double targetTurnRate = 2.5;       ///< degrees per second
+        int approximateGroundSpeed = 120;  ///< knots
+        int positionTolerance = 50;        ///< feet
+        int altitudeTolerance = 50;        ///< feet
+        std::optional<int> targetAltitude; ///< feet above mean sea level; nothing keeps that of the way there
     };
 
     /// The host outlives the factory.

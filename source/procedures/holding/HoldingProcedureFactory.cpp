@@ -27,13 +27,24 @@ bool HoldingProcedureFactory::areProceduresPossible(IChartElement* element) {
                         element->getType() != IChartElement::AIRPORT);
 }
 
+std::list<IndicatedProcedure> HoldingProcedureFactory::getPossibleProcedures(IChartElement* element, int id) {
+    std::list<IndicatedProcedure> lines = getOnlyProcedure(element, id);
+    if (!element)
+        for (IndicatedProcedure& line : lines)
+            line.parameters[CurrentPositionParameter] = "1";
+    return lines;
+}
+
 void HoldingProcedureFactory::prepare(const IndicatedProcedure& procedure, IChartElement* element) {
     const auto here = procedure.parameters.find(CurrentPositionParameter);
     atElement_ = element && (here == procedure.parameters.end() || here->second != "1");
     chartIndex_ = procedure.chartIndex;
     position_ = ChartPosition();
     int altitudeFeet = 0;
-    fillAltAndPos(position_.longitude, position_.latitude, altitudeFeet);
+    if (atElement_)
+        position_ = element->getPosition();
+    else
+        fillAltAndPos(position_.longitude, position_.latitude, altitudeFeet);
     pattern_ = HoldingProcedure::Pattern();
     pattern_.course = defaultCourse(atElement_ ? element : nullptr);
     setGeneralStandardValues();
@@ -52,6 +63,13 @@ std::unique_ptr<IProcedure> HoldingProcedureFactory::Create() {
                               : HoldingProcedure::createHere(position_, pattern_, this);
     writeGeneralValues(holding.get());
     return holding;
+}
+
+CourseList HoldingProcedureFactory::makePattern(double altitudeMetres) {
+    const auto holding = HoldingProcedure::createHere(position_, pattern_, this);
+    writeGeneralValues(holding.get());
+    holding->calculateCourseList(position_, altitudeMetres, pattern_.course);
+    return holding->getCourseList();
 }
 
 std::unique_ptr<IProcedure> HoldingProcedureFactory::CreateFromIni(IChartElementSource* charts, IniFile* document,

@@ -14,15 +14,17 @@ public:
     /// Set in an IndicatedProcedure to "1", it asks for a holding at the current position.
     static constexpr const char* CurrentPositionParameter = "cpos";
 
-    std::list<IndicatedProcedure> getPossibleProcedures(IChartElement* element, int id) override {
-        return getOnlyProcedure(element, id);
-    }
+    /// Without an element: at the current position.
+    std::list<IndicatedProcedure> getPossibleProcedures(IChartElement* element, int id) override;
     bool areProceduresPossible(IChartElement* element) override;
     /// Standard values for an element, null for none.
     void prepare(const IndicatedProcedure& procedure, IChartElement* element);
     HoldingProcedure::Pattern& getPattern() { return pattern_; }
-    /// Where a holding without an element lies.
+    /// Its fix; to be changed where there is no element.
     ChartPosition& getPosition() { return position_; }
+    bool isAtElement() const { return atElement_; }
+    /// The bare pattern with the present values, to be shown.
+    CourseList makePattern(double altitudeMetres);
 
     std::unique_ptr<IProcedure> Create() override;
     std::unique_ptr<IProcedure> CreateFromIni(IChartElementSource* charts, IniFile* document,

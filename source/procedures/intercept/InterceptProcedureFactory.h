@@ -32,6 +32,9 @@ public:
     void prepare(const IndicatedProcedure& procedure, IChartElement* element);
     /// What a list shows, in its order, and the ids of the airways.
     std::map<std::string, int> findConnectedAirways();
+    /// The element's, or the aircraft's.
+    const ChartPosition& getPosition() const { return position_; }
+    const InterceptProcedure::Line& getLine() const { return line_; }
     /// The radial as seen from the element; what isn't good changes nothing.
     Answer useRadial(double radial, double offset, bool to);
     Answer useAirway(int airway, double offset, bool to);

@@ -1,0 +1,38 @@
+#include "procedures/dialogs/ApproachSetup.h"
+
+#include "chart/elements/AirportElement.h"
+#include "chart/store/IChartElementSource.h"
+#include "core/Context.h"
+#include "core/text/Utf8.h"
+#include "gui/windows/Questions.h"
+#include "procedures/dialogs/ApproachScreen.h"
+
+namespace skyvane {
+
+ApproachSetup::ApproachSetup(Context& context)
+    : ApproachProcedureFactory(&context), context_(context), painter_(context) {}
+
+bool ApproachSetup::setup(IndicatedProcedure& procedure, IChartElement* element) {
+    const std::string trouble = choose(procedure, element);
+    if (!trouble.empty()) {
+        tellInBox(context_, decodeUtf8(trouble));
+        return false;
+    }
+    setGeneralStandardValues();
+    return ApproachScreen(context_, *this, *static_cast<const AirportElement*>(element)).run();
+}
+
+void ApproachSetup::renderPreview(IndicatedProcedure* procedure, irr::core::rect<int> rect) {
+    painter_.drawElement(procedure->chartIndex, rect);
+    IChartElementSource* charts = context_.getCharts();
+    const IChartElement* element = charts ? charts->getChartElement(procedure->chartIndex) : nullptr;
+    const std::optional<AppRunway> runway = runwayOfLine(*procedure, element);
+    if (!runway)
+        return;
+    const auto& airport = *static_cast<const AirportElement*>(element);
+    if (const std::optional<RunwayArrow> arrow = pointToRunway(airport, *runway, rect))
+        painter_.drawArrow(*arrow, rect);
+    painter_.drawAircraft(sketchFrame(airport, rect));
+}
+
+} // namespace skyvane

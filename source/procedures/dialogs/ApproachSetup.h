@@ -1,0 +1,22 @@
+#pragma once
+
+#include "procedures/approach/ApproachProcedureFactory.h"
+#include "procedures/dialogs/PreviewPainter.h"
+
+namespace skyvane {
+
+/// Approaches with their dialog and their preview. Main thread only.
+class ApproachSetup : public ApproachProcedureFactory {
+public:
+    explicit ApproachSetup(Context& context);
+
+    bool setup(IndicatedProcedure& procedure, IChartElement* element) override;
+    /// The airport's sketch with an arrow to the runway end, and the aircraft.
+    void renderPreview(IndicatedProcedure* procedure, irr::core::rect<int> rect) override;
+
+private:
+    Context& context_;
+    PreviewPainter painter_;
+};
+
+} // namespace skyvane

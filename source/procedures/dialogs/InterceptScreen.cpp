@@ -1,0 +1,117 @@
+#include "procedures/dialogs/InterceptScreen.h"
+
+#include "chart/geodesy/EarthConstants.h"
+#include "chart/geodesy/LocalFrame.h"
+#include "core/Context.h"
+#include "core/log/Logger.h"
+#include "core/text/Utf8.h"
+#include "gui/windows/Questions.h"
+#include "gui/windows/WindowTools.h"
+#include "procedures/dialogs/GeneralProcedureScreen.h"
+#include "procedures/dialogs/PreviewPane.h"
+#include "procedures/dialogs/ProcedureDocuments.h"
+#include "procedures/framework/FlightReadings.h"
+
+#include <cmath>
+
+namespace skyvane {
+namespace {
+
+constexpr double ShownMetres = 30.0 * MetresPerNauticalMile, SeenMetres = 2.0 * MetresPerNauticalMile;
+constexpr int LineWidth = 2;
+const irr::video::SColor lineColor(0xff8fa6bd);
+
+ChartPosition movedAlong(const ChartPosition& from, double courseDegrees, double metres) {
+    const double course = courseDegrees / DegreesPerRadian;
+    return Vector3df642ChartPosition(from, {std::sin(course) * metres, 0.0, std::cos(course) * metres});
+}
+
+std::wstring troubleOf(InterceptProcedureFactory::Answer answer) {
+    switch (answer) {
+    case InterceptProcedureFactory::Answer::OffsetTooSmall:
+        return L"The interception course offset must be >= 25°.";
+    case InterceptProcedureFactory::Answer::NoAirway:
+        logText("Error: Airway not found.\n");
+        return L"The charts don't know this airway any more.";
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+InterceptScreen::InterceptScreen(Context& context, InterceptProcedureFactory& factory, const std::string& place)
+    : ProcedureScreen(context, {interceptLandscapeLayout, interceptPortraitLayout, "Intercept.hti", "back", "help",
+                                "next", "attPort", "compPort"}),
+      factory_(factory), preview_(context) {
+    showText(element("ttitle"), decodeUtf8(factory.getName() + ": " + place).c_str());
+    PreviewPane::add(context, window(), gui().getSpecialRectangle("spreview"),
+                     [this](const irr::core::rect<int>& rect) { preview_.paint(rect); });
+    fillAirways();
+    refresh();
+}
+
+void InterceptScreen::fillAirways() {
+    auto* list = gui().get<irr::gui::IGUIListBox>("lbox");
+    for (const auto& [text, id] : factory_.findConnectedAirways()) {
+        list->addItem(decodeUtf8(text).c_str());
+        airways_.push_back(id);
+    }
+    list->setSelected(airways_.empty() ? -1 : 0);
+}
+
+std::wstring InterceptScreen::take() {
+    return isChecked("cradial") ? takeRadial() : takeAirway();
+}
+
+std::wstring InterceptScreen::takeAirway() {
+    const int row = gui().get<irr::gui::IGUIListBox>("lbox")->getSelected();
+    if (row < 0 || row >= static_cast<int>(airways_.size()))
+        return L"You need to specify an airway.";
+    const double offset = numberIn("eawyintoff").value_or(0.0);
+    return troubleOf(factory_.useAirway(airways_[static_cast<size_t>(row)], offset, isChecked("cawyto")));
+}
+
+std::wstring InterceptScreen::takeRadial() {
+    const std::optional<double> radial = numberIn("eradial");
+    if (!radial)
+        return L"The radial must be a number of degrees.";
+    return troubleOf(factory_.useRadial(*radial, numberIn("eradintoff").value_or(0.0), isChecked("cradto")));
+}
+
+void InterceptScreen::refresh() {
+    CoursePreview::Scene scene;
+    const ChartPosition fix = factory_.getPosition();
+    scene.fixes = {fix};
+    if (take().empty()) {
+        const double course = factory_.getLine().courseToElement;
+        scene.guides = {
+            {movedAlong(fix, course, -ShownMetres), movedAlong(fix, course, ShownMetres), LineWidth, lineColor}};
+        scene.seen = {movedAlong(fix, course, -SeenMetres), movedAlong(fix, course, SeenMetres)};
+        const FlightReadings readings = readFlight(*context_.getSensorManager());
+        const std::unique_ptr<IProcedure> made = factory_.Create();
+        if (readings.isPlaced()) {
+            made->calculateCourseList(*readings.position, *readings.altitude, readings.heading.value_or(0.0));
+            scene.course = made->getCourseList();
+        }
+    }
+    preview_.show(std::move(scene));
+}
+
+void InterceptScreen::onEvent(const irr::SEvent& event) {
+    if (isClickOf(event, element("bgeneral"))) {
+        GeneralProcedureScreen(context_, factory_.getGeneralValues()).run();
+        takeGlass();
+    } else if (!isEntry(event))
+        return;
+    refresh();
+}
+
+bool InterceptScreen::onNext() {
+    const std::wstring trouble = take();
+    if (!trouble.empty())
+        tellInBox(context_, trouble);
+    return trouble.empty();
+}
+
+} // namespace skyvane

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "procedures/dialogs/CoursePreview.h"
+#include "procedures/intercept/InterceptProcedureFactory.h"
+
+namespace skyvane {
+
+/// Interceptions with their dialog and their preview. Main thread only.
+class InterceptSetup : public InterceptProcedureFactory {
+public:
+    explicit InterceptSetup(Context& context);
+
+    bool setup(IndicatedProcedure& procedure, IChartElement* element) override;
+    /// The element with the airways that begin or end there.
+    void renderPreview(IndicatedProcedure* procedure, irr::core::rect<int> rect) override;
+
+private:
+    Context& context_;
+    CoursePreview preview_;
+};
+
+} // namespace skyvane

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "procedures/approach/LandingRunway.h"
+#include "procedures/preview/PreviewFrame.h"
+
+#include <optional>
+
+namespace skyvane {
+
+/// The frame in which an airport's sketch stands on a picture: around its reference point, as large as
+/// AirportSketch::getPositionFactor makes it.
+PreviewFrame sketchFrame(const AirportElement& airport, const PreviewFrame::Rect& picture);
+
+/// An arrow on the sketch that points to the end of a runway on which an approach lands, in the direction of landing.
+struct RunwayArrow {
+    PreviewFrame::Point threshold;
+    double courseDegrees; ///< On the picture, clockwise from above.
+};
+/// Nothing for a runway that the airport doesn't have.
+std::optional<RunwayArrow> pointToRunway(const AirportElement& airport, const AppRunway& runway,
+                                         const PreviewFrame::Rect& picture);
+
+} // namespace skyvane
