@@ -20,6 +20,7 @@
 #include "core/threads/ThreadInfo.h"
 #include "displays/PanelManager.h"
 #include "displays/drawing/Drawer2D.h"
+#include "displays/map/elements/ChartElementRenderers.h"
 #include "displays/materials/MaterialManager.h"
 #include "gui/font/BMFontLoader.h"
 #include "gui/font/FlexibleFontManager.h"
@@ -102,6 +103,7 @@ Context::Context(irr::IrrlichtDevice* device, const char* argv0, bool full)
 Context::~Context() {
     device_->setEventReceiver(nullptr);
     panels_.reset();
+    renderers_.reset();
     procedures_.reset();
     sensors_.reset();
     sensorDialogs_.reset();
@@ -147,6 +149,7 @@ void Context::makeManagers(IniFile& config) {
     aircrafts_ = std::make_unique<AircraftManager>(this);
     materials_ = std::make_unique<MaterialManager>(this);
     drawer_->setMaterialType(materials_->getMaterialType("Alpha"));
+    renderers_ = std::make_unique<ChartElementRenderers>(this);
     device_->setEventReceiver(events_.get());
 }
 
@@ -182,6 +185,10 @@ IMultiEventReceiver* Context::getEventReceiver() {
 
 FlexibleFont* Context::getFlexibleFont() {
     return panels_ ? panels_->getFlexibleFont() : nullptr;
+}
+
+IChartElementRenderer* Context::getChartElementRenderer(IChartElement::Type type) const {
+    return renderers_->get(type);
 }
 
 std::string Context::getPath(const std::string& path) {

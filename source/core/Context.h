@@ -17,8 +17,10 @@ namespace skyvane {
 
 struct ChartPosition;
 class AircraftManager;
+class ChartElementRenderers;
 class EventReceiver;
 class FlexibleFontManager;
+class IChartElementRenderer;
 class IFrameRunner;
 class IProcedure;
 class IProgressCallback;
@@ -80,6 +82,10 @@ public:
     SystemManager* getSystemManager() { return system_.get(); }
     /// One for each kind of chart element.
     const ElementFactories& getChartElementFactories() const { return chartElementFactories_; }
+    /// Never null once the managers stand, for a number that is no type neither.
+    IChartElementRenderer* getChartElementRenderer(IChartElement::Type type) const;
+    /// All of them; null until the managers stand.
+    ChartElementRenderers* getChartElementRenderers() const { return renderers_.get(); }
     FlexibleFontManager* getFontManager() { return fontManager_.get(); }
     /// The procedure being flown; a NullProcedure without a flight plan. Never null.
     IProcedure* getCurrentProcedure();
@@ -132,6 +138,7 @@ private:
     std::unique_ptr<InputSystem> input_;
     std::unique_ptr<AircraftManager> aircrafts_;
     std::unique_ptr<MaterialManager> materials_;
+    std::unique_ptr<ChartElementRenderers> renderers_;
     FramePacer pacer_;
     bool shallExit_ = false;
     bool screenshotWanted_ = false;
