@@ -6,6 +6,8 @@
 
 namespace skyvane {
 
+struct ShapeMesh;
+
 /// The one 2-D drawing service of the displays: textured quads, lines, arcs, polygons and ready meshes, in pixels of
 /// the driver's current viewport, y down.
 ///
@@ -38,6 +40,8 @@ public:
                  float stepDegrees, int width, float pivotY = 0.0f);
     void DrawPolygon(irr::video::ITexture* texture, const std::vector<Position>& points, int width);
     void DrawFilledPolygon(const std::vector<Position>& points);
+    /// Coloured triangles, whatever colour is set, moved by that many pixels.
+    void draw(const ShapeMesh& shapes, PointF translation = PointF(0, 0));
 
     // Reusable meshes.
     void fillPolygonMeshBuffer(irr::scene::SMeshBuffer* mesh, const std::vector<PointF>& points,

@@ -1,6 +1,7 @@
 #include "chart/geodesy/Triangulate.h"
 #include "displays/drawing/Drawer2D.h"
 #include "displays/drawing/Drawer2DState.h"
+#include "displays/shapes/ShapeMesh.h"
 
 #include <algorithm>
 
@@ -106,6 +107,33 @@ void Drawer2D::DrawFilledPolygon(const std::vector<Position>& points) {
         const unsigned first = state_->batch.room(3, 3);
         for (size_t k = i; k < i + 3; ++k)
             state_->batch.vertex(state_->corners[k], Point2f(0, 0), state_->colors[0]);
+        state_->batch.triangle(first, first + 1, first + 2);
+    }
+}
+
+void Drawer2D::draw(const ShapeMesh& shapes, PointF translation) {
+    if (shapes.isEmpty())
+        return;
+    state_->batch.use(nullptr);
+    const auto put = [&](const ShapeMesh::Vertex& vertex) {
+        state_->batch.vertex(vertex.place + translation, Point2f(0, 0), irr::video::SColor(vertex.argb));
+    };
+    const auto count = static_cast<unsigned>(shapes.vertices.size());
+    const auto indices = static_cast<unsigned>(shapes.indices.size());
+    if (count <= TriangleBatch::maximumVertices && indices <= 6 * TriangleBatch::maximumVertices) {
+        const unsigned first = state_->batch.room(count, indices);
+        for (const ShapeMesh::Vertex& vertex : shapes.vertices)
+            put(vertex);
+        for (unsigned i = 0; i + 2 < indices; i += 3)
+            state_->batch.triangle(first + shapes.indices[i], first + shapes.indices[i + 1],
+                                   first + shapes.indices[i + 2]);
+        return;
+    }
+    // More than a batch holds: triangle by triangle, without shared corners.
+    for (unsigned i = 0; i + 2 < indices; i += 3) {
+        const unsigned first = state_->batch.room(3, 3);
+        for (unsigned k = i; k < i + 3; ++k)
+            put(shapes.vertices[shapes.indices[k]]);
         state_->batch.triangle(first, first + 1, first + 2);
     }
 }

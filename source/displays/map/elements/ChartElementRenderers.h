@@ -8,6 +8,7 @@
 namespace skyvane {
 
 class Context;
+struct RendererParts;
 
 /// One renderer for each kind of chart element; all kinds are registered here. Main thread only.
 class ChartElementRenderers {
@@ -29,6 +30,10 @@ public:
     }
 
 private:
+    template <class Renderer>
+    void add(IChartElement::Type type);
+
+    std::unique_ptr<RendererParts> parts_;
     std::array<std::unique_ptr<IChartElementRenderer>, IChartElement::TypeCount> renderers_;
     std::unique_ptr<IChartElementRenderer> nothing_;
 };

@@ -1,0 +1,242 @@
+#include "displays/mapmath/elements/AirportSketchPlan.h"
+
+#include "chart/elements/AirportElement.h"
+#include "chart/geodesy/EarthConstants.h"
+#include "displays/labels/OverlapPreventer.h"
+#include "displays/mapmath/elements/GroundStyles.h"
+#include "displays/mapmath/elements/RunwayShapes.h"
+#include "displays/shapes/PolygonSweep.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace skyvane {
+
+namespace {
+
+constexpr uint32_t grass = 0xff3f5d43, grassEdge = 0xff26382b, identColor = 0xffffffff, lengthColor = 0xffffe08a,
+                   frameColor = 0xffdfe6ec;
+constexpr double degreesPerRadian = 57.29577951308232;
+constexpr double leastExtentMetres = 200.0;
+constexpr double leastRunwayWidth = 4.0;
+constexpr int labelRounds = 40;
+
+using Strip = AirportSketch::Strip;
+
+/// From the airport's frame to pixels.
+struct Scale {
+    ShapePoint centre; ///< Metres, in the middle of the picture.
+    ShapePoint middle; ///< Pixels.
+    double factor = 1.0;
+
+    ShapePoint operator()(const ShapePoint& metres) const {
+        return middle + ShapePoint(metres.X - centre.X, centre.Y - metres.Y) * factor;
+    }
+};
+
+Scale fit(const std::vector<Strip>& strips, const SketchFrame& frame, double margin) {
+    const double huge = std::numeric_limits<double>::max();
+    ShapePoint low(huge, huge), high(-huge, -huge);
+    for (const Strip& strip : strips)
+        for (const ShapePoint& corner : strip.corners) {
+            low = ShapePoint(std::min(low.X, corner.X), std::min(low.Y, corner.Y));
+            high = ShapePoint(std::max(high.X, corner.X), std::max(high.Y, corner.Y));
+        }
+    const ShapePoint extent(std::max(high.X - low.X, leastExtentMetres), std::max(high.Y - low.Y, leastExtentMetres));
+    const ShapePoint room(std::max(10.0, frame.size.Width - 2.0 * margin), std::max(10.0, frame.size.Height - 2.0 * margin));
+    Scale scale;
+    scale.centre = (low + high) / 2.0;
+    scale.middle = ShapePoint(0.5 * frame.size.Width, 0.5 * frame.size.Height);
+    scale.factor = std::min(room.X / extent.X, room.Y / extent.Y);
+    return scale;
+}
+
+ShapeRect viewOf(const SketchFrame& frame) {
+    return {0.0, 0.0, static_cast<double>(frame.size.Width), static_cast<double>(frame.size.Height)};
+}
+
+void addGround(SketchPlan& plan, const AirportGround& ground, const Scale& scale, const SketchFrame& frame) {
+    const ShapeRect view = viewOf(frame);
+    ShapePath path;
+    for (const AirportGround::Feature& feature : ground.features) {
+        path.clear();
+        for (const ShapePoint& point : feature.points)
+            path.push_back(scale(point));
+        const GroundStyle& style = groundStyle(feature.feature);
+        if (!feature.isPolygon) {
+            const double width = std::max(1.2, feature.widthMetres * scale.factor);
+            addStroke(plan.shapes, path, {static_cast<float>(width), style.line, false, 0.0f, 0.0f}, view);
+            continue;
+        }
+        PolygonSweep sweep(path);
+        sweep.advance(1000000);
+        for (const auto& part : sweep.getTrapezoids()) {
+            const uint32_t first = plan.shapes.add({part.left0, part.y0}, style.fill);
+            plan.shapes.add({part.right0, part.y0}, style.fill);
+            plan.shapes.add({part.right1, part.y1}, style.fill);
+            plan.shapes.add({part.left1, part.y1}, style.fill);
+            plan.shapes.quad(first, first + 1, first + 2, first + 3);
+        }
+        addStroke(plan.shapes, path, {1.0f, style.line, true, 0.0f, 0.0f}, view);
+    }
+}
+
+ShapePoint towards(const ShapePoint& from, const ShapePoint& to) {
+    const ShapePoint along = to - from;
+    const double length = along.getLength();
+    return length > 0.0 ? along / length : ShapePoint(0.0, -1.0);
+}
+
+/// The idents stand beyond the ends, and are pushed apart where ends meet.
+void addIdents(SketchPlan& plan, const AirportElement& airport, const std::vector<Strip>& strips, const Scale& scale,
+               const SketchFrame& frame) {
+    const double height = sketchTextHeight(frame);
+    OverlapPreventer preventer;
+    for (size_t i = 0; i < strips.size() && i < airport.runways.size(); ++i)
+        for (size_t end = 0; end < 2; ++end) {
+            const std::string ident = airport.runways[i].getEndLabel(end);
+            const ShapePoint at = scale(strips[i].ends[end]), out = towards(scale(strips[i].ends[1 - end]), at);
+            const double width = frame.widthOf(ident, height);
+            const ShapePoint middle =
+                at + ShapePoint(out.X * (0.5 * width + 0.3 * height), out.Y * 0.85 * height);
+            const ShapePoint half(0.5 * width + 1.0, 0.5 * height);
+            preventer.getRecords().emplace_back(ShapeRect(middle - half, middle + half), nullptr,
+                                                static_cast<int>(plan.texts.size()), 1.0);
+            plan.texts.push_back({ident, middle, height, 0.0, identColor});
+        }
+    preventer.overlapSolver(labelRounds);
+    const ShapeRect view = viewOf(frame);
+    for (const OverlapRecord& record : preventer.getRecords()) {
+        const ShapePoint half(0.5 * record.width, 0.5 * record.height);
+        ShapePoint& middle = plan.texts[static_cast<size_t>(record.index)].middle;
+        middle = record.rectangle.getCenter();
+        middle.X = std::clamp(middle.X, half.X, std::max(half.X, view.LowerRightCorner.X - half.X));
+        middle.Y = std::clamp(middle.Y, half.Y, std::max(half.Y, view.LowerRightCorner.Y - half.Y));
+    }
+}
+
+double distanceToOthers(const std::vector<Strip>& strips, size_t own, const Scale& scale, const ShapePoint& place) {
+    double nearest = std::numeric_limits<double>::max();
+    for (size_t i = 0; i < strips.size(); ++i)
+        if (i != own)
+            nearest = std::min(nearest,
+                               distanceToPath({scale(strips[i].ends[0]), scale(strips[i].ends[1])}, false, place));
+    return nearest;
+}
+
+/// Along the runway, where the most room is.
+void addLengths(SketchPlan& plan, const AirportElement& airport, const std::vector<Strip>& strips, const Scale& scale,
+                const SketchFrame& frame) {
+    const double height = 0.82 * sketchTextHeight(frame);
+    const bool withWidth = frame.size.Width >= 300;
+    for (size_t i = 0; i < strips.size() && i < airport.runways.size(); ++i) {
+        const std::string text = runwayLengthText(airport.runways[i], frame.metric, withWidth);
+        const ShapePoint a = scale(strips[i].ends[0]), b = scale(strips[i].ends[1]);
+        if (text.empty() || frame.widthOf(text, height) > 0.85 * a.getDistanceFrom(b))
+            continue;
+        ShapePoint along = towards(a, b);
+        if (along.X < 0.0)
+            along = -along;
+        const ShapePoint across(along.Y, -along.X);
+        const double width =
+            std::max(leastRunwayWidth, scale(strips[i].corners[0]).getDistanceFrom(scale(strips[i].corners[1])));
+        ShapePoint best;
+        double most = -1.0;
+        for (const double share : {0.5, 0.35, 0.65, 0.25, 0.75})
+            for (const double side : {1.0, -1.0}) {
+                const ShapePoint place = a + (b - a) * share + across * side * (0.5 * width + 0.75 * height);
+                const double room = std::min(distanceToOthers(strips, i, scale, place), 3.0 * height);
+                if (room > most + 0.5) {
+                    most = room;
+                    best = place;
+                }
+            }
+        plan.texts.push_back({text, best, height, -std::atan2(along.Y, along.X) * degreesPerRadian, lengthColor});
+    }
+}
+
+void addNorthArrow(SketchPlan& plan, const SketchFrame& frame) {
+    const double size = 0.8 * sketchTextHeight(frame);
+    const ShapePoint tip(frame.size.Width - 0.9 * size - 3.0, 0.5 * size + 2.0);
+    addConvex(plan.shapes, {tip, tip + ShapePoint(0.45 * size, 1.15 * size), tip + ShapePoint(0.0, 0.85 * size)},
+              frameColor);
+    addConvex(plan.shapes, {tip, tip + ShapePoint(0.0, 0.85 * size), tip + ShapePoint(-0.45 * size, 1.15 * size)},
+              withAlpha(frameColor, 0.55));
+    plan.texts.push_back({"N", tip + ShapePoint(0.0, 1.75 * size), size, 0.0, frameColor});
+}
+
+void addScaleBar(SketchPlan& plan, const SketchFrame& frame) {
+    if (frame.size.Width < 220 || frame.size.Height < 150)
+        return;
+    const double unit = frame.metric ? 1.0 : MetresPerFoot;
+    double value = 50.0;
+    for (const double candidate : {100.0, 200.0, 500.0, 1000.0, 2000.0, 5000.0, 10000.0})
+        if (candidate * unit * plan.pixelsPerMetre <= 0.25 * frame.size.Width)
+            value = candidate;
+    const double length = value * unit * plan.pixelsPerMetre, height = 0.72 * sketchTextHeight(frame);
+    const ShapePoint left(0.6 * height + 2.0, frame.size.Height - 0.6 * height - 2.0), up(0.0, -0.35 * height);
+    const Stroke stroke{1.6f, frameColor, false, 0.0f, 0.0f};
+    addStroke(plan.shapes, {left + up, left, left + ShapePoint(length, 0.0), left + up + ShapePoint(length, 0.0)}, stroke,
+              viewOf(frame));
+    const std::string text = std::to_string(static_cast<int>(value)) + (frame.metric ? " m" : " ft");
+    plan.texts.push_back({text, left + ShapePoint(0.5 * length, -0.75 * height), height, 0.0, frameColor});
+}
+
+/// An airport of which no runway is known.
+void addPad(SketchPlan& plan, const AirportElement& airport, const SketchFrame& frame) {
+    const double size = 0.28 * std::min(frame.size.Width, frame.size.Height);
+    const ShapePoint middle(0.5 * frame.size.Width, 0.5 * frame.size.Height);
+    addDisc(plan.shapes, middle, 1.25 * size, frameColor);
+    addDisc(plan.shapes, middle, 1.15 * size, 0xff4a4f57);
+    if (!airport.isHeliport)
+        return addDisc(plan.shapes, middle, 0.85 * size, grass);
+    const float width = static_cast<float>(0.22 * size);
+    const ShapeRect view = viewOf(frame);
+    for (const double x : {-0.42, 0.42})
+        addStroke(plan.shapes, {middle + ShapePoint(x, -0.62) * size, middle + ShapePoint(x, 0.62) * size},
+                  {width, identColor, false, 0.0f, 0.0f}, view);
+    addStroke(plan.shapes, {middle + ShapePoint(-0.42, 0.0) * size, middle + ShapePoint(0.42, 0.0) * size},
+              {width, identColor, false, 0.0f, 0.0f}, view);
+}
+
+} // namespace
+
+double sketchTextHeight(const SketchFrame& frame) {
+    return std::clamp(0.085 * std::min<double>(frame.size.Height, 0.75 * frame.size.Width), 11.0, 26.0);
+}
+
+void addSketchGround(SketchPlan& plan, const SketchFrame& frame) {
+    const double w = frame.size.Width, h = frame.size.Height;
+    addConvex(plan.shapes, {{0.0, 0.0}, {w, 0.0}, {w, h}, {0.0, h}}, grassEdge);
+    addConvex(plan.shapes, {{1.5, 1.5}, {w - 1.5, 1.5}, {w - 1.5, h - 1.5}, {1.5, h - 1.5}}, grass);
+}
+
+SketchPlan planAirportSketch(const AirportElement& airport, const AirportGround& ground, const SketchFrame& frame) {
+    SketchPlan plan;
+    if (frame.size.Width < 4 || frame.size.Height < 4)
+        return plan;
+    addSketchGround(plan, frame);
+    // The element's own sketch is of what was read; a preview may be of what is being edited.
+    const AirportSketch sketch(airport);
+    const std::vector<Strip>& strips = sketch.getStrips();
+    if (strips.empty()) {
+        addPad(plan, airport, frame);
+        return plan;
+    }
+    const Scale scale = fit(strips, frame, 1.9 * sketchTextHeight(frame));
+    plan.pixelsPerMetre = scale.factor;
+    addGround(plan, ground, scale, frame);
+    for (const Strip& strip : strips) {
+        const double width = strip.corners[0].getDistanceFrom(strip.corners[1]) * scale.factor;
+        addRunway(plan.shapes, scale(strip.ends[0]), scale(strip.ends[1]), width, leastRunwayWidth,
+                  runwayLook(strip.surface), viewOf(frame));
+    }
+    addLengths(plan, airport, strips, scale, frame);
+    addIdents(plan, airport, strips, scale, frame);
+    addNorthArrow(plan, frame);
+    addScaleBar(plan, frame);
+    return plan;
+}
+
+} // namespace skyvane
