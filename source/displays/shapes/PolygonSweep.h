@@ -10,11 +10,11 @@ namespace skyvane {
 ///     while (!sweep.advance(20000)) ...          // perhaps a frame later
 ///     for (const auto& part : sweep.getTrapezoids()) ...
 ///
-/// A line goes over the polygon from low to high y; between two vertices, or crossings of edges, it meets the same edges
-/// in the same order, and every second space between them is inside (even-odd rule: a polygon that crosses itself is
-/// right too). A trapezoid lasts as long as the two edges at its sides stay neighbours, so that there are about as many
-/// as vertices. The time of a step grows with the number of edges that the line meets; outlines for which that gets out
-/// of hand, such as a scribble of 100,000 random points, fail after maximumWork.
+/// A line goes over the polygon from low to high y; between two vertices, or crossings of edges, it meets the same
+/// edges in the same order, and every second space between them is inside (even-odd rule: a polygon that crosses itself
+/// is right too). A trapezoid lasts as long as the two edges at its sides stay neighbours, so that there are about as
+/// many as vertices. The time of a step grows with the number of edges that the line meets; outlines for which that
+/// gets out of hand, such as a scribble of 100,000 random points, fail after maximumWork.
 class PolygonSweep {
 public:
     /// Two sides that go from (left0, y0) to (left1, y1) and from (right0, y0) to (right1, y1).

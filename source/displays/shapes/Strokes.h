@@ -4,8 +4,8 @@
 
 namespace skyvane {
 
-/// Lines, bands and simple areas as triangles whose edges are soft over one pixel. Points are pixels in double precision,
-/// since what lies far outside of a view is drawn through it.
+/// Lines, bands and simple areas as triangles whose edges are soft over one pixel. Points are pixels in double
+/// precision, since what lies far outside of a view is drawn through it.
 
 using ShapePoint = irr::core::vector2d<double>;
 using ShapePath = std::vector<ShapePoint>;

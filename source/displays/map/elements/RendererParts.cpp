@@ -25,8 +25,8 @@ void renderPointSketch(RendererParts& parts, const irr::core::rect<int>& rect, c
         if (line.empty())
             continue;
         const double width = frame.widthOf(line, height);
-        plan.texts.push_back({line, {0.5 * w, y}, height * std::min(1.0, 0.94 * w / std::max(1.0, width)), 0.0,
-                              0xffffffff});
+        plan.texts.push_back(
+            {line, {0.5 * w, y}, height * std::min(1.0, 0.94 * w / std::max(1.0, width)), 0.0, 0xffffffff});
         y += 1.15 * height;
     }
     parts.painter.draw(plan, rect);

@@ -96,8 +96,7 @@ void SketchPainter::drawTexts(const SketchPlan& plan, const rect<int>& place) {
         texts_[i]->set(font, decodeUtf8(text.text).c_str(), irr::video::SColor(text.argb));
         const auto lineHeight = sizeOf(*font, L"0").Height;
         const float scale = lineHeight > 0 ? static_cast<float>(text.height) / static_cast<float>(lineHeight) : 1.0f;
-        texts_[i]->drawRotated(place,
-                               {static_cast<float>(text.middle.X), static_cast<float>(text.middle.Y)},
+        texts_[i]->drawRotated(place, {static_cast<float>(text.middle.X), static_cast<float>(text.middle.Y)},
                                {scale, scale}, static_cast<float>(text.turnDegrees));
     }
 }

@@ -26,8 +26,8 @@ double reachOf(const AirportElement& airport) {
 }
 
 AirportGround::Feature toFeature(const GroundGeometryElement& element, const ChartPosition& centre) {
-    AirportGround::Feature feature{element.feature, element.geoType == GroundGeometryElement::Polygon,
-                                   element.getWidthSteps() * 0.5, {}};
+    AirportGround::Feature feature{
+        element.feature, element.geoType == GroundGeometryElement::Polygon, element.getWidthSteps() * 0.5, {}};
     feature.points.reserve(element.vertices.size());
     for (const ChartPosition& vertex : element.vertices) {
         const auto place = ChartPosition2Vector3df64(centre, vertex, 0.0);

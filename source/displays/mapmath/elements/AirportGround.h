@@ -21,8 +21,8 @@ struct AirportGround {
     std::vector<Feature> features; ///< In the order of drawing.
 };
 
-/// From the charts, within the airport's extent and somewhat around. At most a thousand features. The airport is not one
-/// of the chart's own elements: those hold until the next call only.
+/// From the charts, within the airport's extent and somewhat around. At most a thousand features. The airport is not
+/// one of the chart's own elements: those hold until the next call only.
 AirportGround findAirportGround(IChartElementSource& charts, const AirportElement& airport);
 
 } // namespace skyvane

@@ -44,7 +44,8 @@ Scale fit(const std::vector<Strip>& strips, const SketchFrame& frame, double mar
             high = ShapePoint(std::max(high.X, corner.X), std::max(high.Y, corner.Y));
         }
     const ShapePoint extent(std::max(high.X - low.X, leastExtentMetres), std::max(high.Y - low.Y, leastExtentMetres));
-    const ShapePoint room(std::max(10.0, frame.size.Width - 2.0 * margin), std::max(10.0, frame.size.Height - 2.0 * margin));
+    const ShapePoint room(std::max(10.0, frame.size.Width - 2.0 * margin),
+                          std::max(10.0, frame.size.Height - 2.0 * margin));
     Scale scale;
     scale.centre = (low + high) / 2.0;
     scale.middle = ShapePoint(0.5 * frame.size.Width, 0.5 * frame.size.Height);
@@ -98,8 +99,7 @@ void addIdents(SketchPlan& plan, const AirportElement& airport, const std::vecto
             const std::string ident = airport.runways[i].getEndLabel(end);
             const ShapePoint at = scale(strips[i].ends[end]), out = towards(scale(strips[i].ends[1 - end]), at);
             const double width = frame.widthOf(ident, height);
-            const ShapePoint middle =
-                at + ShapePoint(out.X * (0.5 * width + 0.3 * height), out.Y * 0.85 * height);
+            const ShapePoint middle = at + ShapePoint(out.X * (0.5 * width + 0.3 * height), out.Y * 0.85 * height);
             const ShapePoint half(0.5 * width + 1.0, 0.5 * height);
             preventer.getRecords().emplace_back(ShapeRect(middle - half, middle + half), nullptr,
                                                 static_cast<int>(plan.texts.size()), 1.0);
@@ -120,8 +120,8 @@ double distanceToOthers(const std::vector<Strip>& strips, size_t own, const Scal
     double nearest = std::numeric_limits<double>::max();
     for (size_t i = 0; i < strips.size(); ++i)
         if (i != own)
-            nearest = std::min(nearest,
-                               distanceToPath({scale(strips[i].ends[0]), scale(strips[i].ends[1])}, false, place));
+            nearest =
+                std::min(nearest, distanceToPath({scale(strips[i].ends[0]), scale(strips[i].ends[1])}, false, place));
     return nearest;
 }
 
@@ -177,8 +177,8 @@ void addScaleBar(SketchPlan& plan, const SketchFrame& frame) {
     const double length = value * unit * plan.pixelsPerMetre, height = 0.72 * sketchTextHeight(frame);
     const ShapePoint left(0.6 * height + 2.0, frame.size.Height - 0.6 * height - 2.0), up(0.0, -0.35 * height);
     const Stroke stroke{1.6f, frameColor, false, 0.0f, 0.0f};
-    addStroke(plan.shapes, {left + up, left, left + ShapePoint(length, 0.0), left + up + ShapePoint(length, 0.0)}, stroke,
-              viewOf(frame));
+    addStroke(plan.shapes, {left + up, left, left + ShapePoint(length, 0.0), left + up + ShapePoint(length, 0.0)},
+              stroke, viewOf(frame));
     const std::string text = std::to_string(static_cast<int>(value)) + (frame.metric ? " m" : " ft");
     plan.texts.push_back({text, left + ShapePoint(0.5 * length, -0.75 * height), height, 0.0, frameColor});
 }

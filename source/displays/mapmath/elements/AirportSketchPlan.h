@@ -37,8 +37,8 @@ void addSketchGround(SketchPlan& plan, const SketchFrame& frame);
 double sketchTextHeight(const SketchFrame& frame);
 
 /// The runways to scale, north up, with idents at their ends and lengths along them, over what is known of the ground
-/// around; a north arrow, and a scale where there is room. Readable from 150 x 100 pixels on. An airport without runways
-/// shows a helipad's H, or a ring.
+/// around; a north arrow, and a scale where there is room. Readable from 150 x 100 pixels on. An airport without
+/// runways shows a helipad's H, or a ring.
 SketchPlan planAirportSketch(const AirportElement& airport, const AirportGround& ground, const SketchFrame& frame);
 
 } // namespace skyvane

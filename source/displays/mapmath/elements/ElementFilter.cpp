@@ -83,8 +83,8 @@ bool MapFilter::showsObstruction(const char* bytes, double altitudeMetres) const
     if (!switches.terrainEnable || viewArea > largestObstructionArea)
         return false;
     // The highest code stands for everything above it too. Without an altitude nothing is known to be low.
-    const bool isLow = wordOf(bytes) < highestCode &&
-                       altitudeMetres - staticObstructionTop(bytes) >= lowObstructionMetres;
+    const bool isLow =
+        wordOf(bytes) < highestCode && altitudeMetres - staticObstructionTop(bytes) >= lowObstructionMetres;
     return switches.lowObstacles || !isLow;
 }
 

@@ -19,7 +19,8 @@ double shorterWay(double degrees) {
 } // namespace
 
 ShapePoint MapAffine::toPixels(const ChartPosition& position) const {
-    return origin + toPixels(shorterWay(position.longitude - reference.longitude), position.latitude - reference.latitude);
+    return origin +
+           toPixels(shorterWay(position.longitude - reference.longitude), position.latitude - reference.latitude);
 }
 
 void MapAffine::project(const std::vector<ChartPosition>& vertices, ShapePath& path) const {
@@ -30,7 +31,8 @@ void MapAffine::project(const std::vector<ChartPosition>& vertices, ShapePath& p
     const ShapePoint start = toPixels(first);
     path.reserve(vertices.size());
     for (const ChartPosition& vertex : vertices)
-        path.push_back(start + toPixels(shorterWay(vertex.longitude - first.longitude), vertex.latitude - first.latitude));
+        path.push_back(start +
+                       toPixels(shorterWay(vertex.longitude - first.longitude), vertex.latitude - first.latitude));
 }
 
 double MapAffine::getPixelsPerMetre() const {

@@ -18,7 +18,9 @@ struct MapAffine {
 
     ShapePoint toPixels(const ChartPosition& position) const;
     /// Of a displacement in degrees.
-    ShapePoint toPixels(double degreesEast, double degreesNorth) const { return east * degreesEast + north * degreesNorth; }
+    ShapePoint toPixels(double degreesEast, double degreesNorth) const {
+        return east * degreesEast + north * degreesNorth;
+    }
     /// Replaces `path`.
     void project(const std::vector<ChartPosition>& vertices, ShapePath& path) const;
     /// Pixels a metre, north or south.

@@ -11,10 +11,8 @@ namespace skyvane {
 namespace {
 
 constexpr RunwayLook looks[] = {
-    {0xff33363c, 0xffeef0f2, 0xffeef0f2, 0xff000000, "paved"},
-    {0xff5d5349, 0xffe3d6c4, 0xffcfc2b0, 0xff784600, "worn"},
-    {0xff8fc46a, 0xfff3fbe6, 0, 0xff008000, "grass"},
-    {0xff4a90d9, 0xffd9ecff, 0, 0xff0000ff, "water"},
+    {0xff33363c, 0xffeef0f2, 0xffeef0f2, 0xff000000, "paved"}, {0xff5d5349, 0xffe3d6c4, 0xffcfc2b0, 0xff784600, "worn"},
+    {0xff8fc46a, 0xfff3fbe6, 0, 0xff008000, "grass"},          {0xff4a90d9, 0xffd9ecff, 0, 0xff0000ff, "water"},
     {0xff8a7f6e, 0xffefe7da, 0, 0xff784600, "unknown"},
 };
 
