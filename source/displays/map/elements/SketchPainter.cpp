@@ -7,6 +7,7 @@
 #include "gui/font/FlexibleFont.h"
 
 #include <cmath>
+#include <optional>
 
 namespace skyvane {
 
@@ -15,6 +16,7 @@ namespace {
 using irr::core::rect;
 
 /// Letters with a dark rim: what the letters lose to the rim, their fatness gives back.
+constexpr double leastRimmedHeight = 17.0;
 constexpr float rimWidth = 0.16f, rimShift = 0.13f;
 const irr::video::SColor rimColor(0xd0000000);
 
@@ -88,7 +90,6 @@ void SketchPainter::drawTexts(const SketchPlan& plan, const rect<int>& place) {
     FlexibleFont* font = context_->getFlexibleFont();
     if (!font)
         return;
-    const RimmedLetters rim(*font);
     while (texts_.size() < plan.texts.size())
         texts_.push_back(std::make_unique<CachedText>());
     for (size_t i = 0; i < plan.texts.size(); ++i) {
@@ -96,6 +97,10 @@ void SketchPainter::drawTexts(const SketchPlan& plan, const rect<int>& place) {
         texts_[i]->set(font, decodeUtf8(text.text).c_str(), irr::video::SColor(text.argb));
         const auto lineHeight = sizeOf(*font, L"0").Height;
         const float scale = lineHeight > 0 ? static_cast<float>(text.height) / static_cast<float>(lineHeight) : 1.0f;
+        // Small letters have no room for a rim.
+        std::optional<RimmedLetters> rim;
+        if (text.height >= leastRimmedHeight)
+            rim.emplace(*font);
         texts_[i]->drawRotated(place, {static_cast<float>(text.middle.X), static_cast<float>(text.middle.Y)},
                                {scale, scale}, static_cast<float>(text.turnDegrees));
     }

@@ -3,9 +3,8 @@
 #include "chart/elements/AirportElement.h"
 #include "chart/geodesy/EarthConstants.h"
 #include "displays/labels/OverlapPreventer.h"
-#include "displays/mapmath/elements/GroundStyles.h"
+#include "displays/mapmath/elements/GroundShapes.h"
 #include "displays/mapmath/elements/RunwayShapes.h"
-#include "displays/shapes/PolygonSweep.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,6 +19,7 @@ constexpr uint32_t grass = 0xff3f5d43, grassEdge = 0xff26382b, identColor = 0xff
 constexpr double degreesPerRadian = 57.29577951308232;
 constexpr double leastExtentMetres = 200.0;
 constexpr double leastRunwayWidth = 4.0;
+constexpr double leastTurnedHeight = 13.0;
 constexpr int labelRounds = 40;
 
 using Strip = AirportSketch::Strip;
@@ -58,28 +58,13 @@ ShapeRect viewOf(const SketchFrame& frame) {
 }
 
 void addGround(SketchPlan& plan, const AirportGround& ground, const Scale& scale, const SketchFrame& frame) {
-    const ShapeRect view = viewOf(frame);
     ShapePath path;
     for (const AirportGround::Feature& feature : ground.features) {
         path.clear();
         for (const ShapePoint& point : feature.points)
             path.push_back(scale(point));
-        const GroundStyle& style = groundStyle(feature.feature);
-        if (!feature.isPolygon) {
-            const double width = std::max(1.2, feature.widthMetres * scale.factor);
-            addStroke(plan.shapes, path, {static_cast<float>(width), style.line, false, 0.0f, 0.0f}, view);
-            continue;
-        }
-        PolygonSweep sweep(path);
-        sweep.advance(1000000);
-        for (const auto& part : sweep.getTrapezoids()) {
-            const uint32_t first = plan.shapes.add({part.left0, part.y0}, style.fill);
-            plan.shapes.add({part.right0, part.y0}, style.fill);
-            plan.shapes.add({part.right1, part.y1}, style.fill);
-            plan.shapes.add({part.left1, part.y1}, style.fill);
-            plan.shapes.quad(first, first + 1, first + 2, first + 3);
-        }
-        addStroke(plan.shapes, path, {1.0f, style.line, true, 0.0f, 0.0f}, view);
+        addGroundFeature(plan.shapes, path, feature.feature, feature.isPolygon,
+                         std::max(1.2, feature.widthMetres * scale.factor), viewOf(frame));
     }
 }
 
@@ -125,10 +110,25 @@ double distanceToOthers(const std::vector<Strip>& strips, size_t own, const Scal
     return nearest;
 }
 
+/// Where turned text would be too small to read: that of the longest runway, in a corner.
+void addMainLength(SketchPlan& plan, const AirportElement& airport, const SketchFrame& frame) {
+    const Runway* runway = mainRunway(airport);
+    const std::string text = runway ? runwayLengthText(*runway, frame.metric, false) : std::string();
+    const double height = sketchTextHeight(frame);
+    if (!text.empty())
+        plan.texts.push_back({text,
+                              {0.5 * frame.widthOf(text, height) + 5.0, frame.size.Height - 0.5 * height - 3.0},
+                              height,
+                              0.0,
+                              lengthColor});
+}
+
 /// Along the runway, where the most room is.
 void addLengths(SketchPlan& plan, const AirportElement& airport, const std::vector<Strip>& strips, const Scale& scale,
                 const SketchFrame& frame) {
-    const double height = 0.82 * sketchTextHeight(frame);
+    const double height = 0.85 * sketchTextHeight(frame);
+    if (height < leastTurnedHeight)
+        return addMainLength(plan, airport, frame);
     const bool withWidth = frame.size.Width >= 300;
     for (size_t i = 0; i < strips.size() && i < airport.runways.size(); ++i) {
         const std::string text = runwayLengthText(airport.runways[i], frame.metric, withWidth);
@@ -203,7 +203,7 @@ void addPad(SketchPlan& plan, const AirportElement& airport, const SketchFrame& 
 } // namespace
 
 double sketchTextHeight(const SketchFrame& frame) {
-    return std::clamp(0.085 * std::min<double>(frame.size.Height, 0.75 * frame.size.Width), 11.0, 26.0);
+    return std::clamp(0.095 * std::min<double>(frame.size.Height, 0.75 * frame.size.Width), 14.0, 28.0);
 }
 
 void addSketchGround(SketchPlan& plan, const SketchFrame& frame) {
