@@ -61,7 +61,7 @@ double nearMesh(bool smoke) {
     const Tile tile = mountainTile(1);
     for (const auto& [width, height, north] : {std::tuple(1.0, 1.0, 43.0), {2.0, 1.0, 43.0}, {4.0, 2.0, 44.0}})
         saveTile(getTilePath(folder.path(), findCell(store, 0, north, width, height)->getId()), tile.data());
-    const NearMesh near(181);
+    NearMesh near(181);
     const ChartPosition centre(0.5, 42.5);
     TerrainMesh mesh, plain;
     near.build(*std::make_unique<TerrainSampler>(store), centre, mesh); // loads the tiles

@@ -56,11 +56,6 @@ TerrainManager::TerrainManager(Context* context, std::string folder, bool checkD
                                int cacheSize)
     : context_(context), type_(type), store_(std::move(folder), cacheSize),
       pager_(store_, sampleAmountOf(context->getPanelManager()->getTerrainDetailLevel())),
-      nearMeshes_(pager_.getNearMesh().makeIndices(),
-                  static_cast<size_t>(pager_.getNearMesh().getSampleAmount()) *
-                      static_cast<size_t>(pager_.getNearMesh().getSampleAmount()),
-                  pager_.getNearMesh().getSampleAmount()),
-      wideMeshes_(WideMesh::makeIndices(), static_cast<size_t>(WideMesh::Rings) * WideMesh::VerticesPerRing, 0),
       dirtyCheckDone_(!checkDirty) {
     if (!pager_.start())
         logText("No thread for the terrain: there will be none.\n");
@@ -94,7 +89,15 @@ TerrainPager::Aircraft TerrainManager::readAircraft() const {
     return {ChartPosition(position->longitude, position->latitude), altitude->value, true};
 }
 
+void TerrainManager::makeNearMeshes() {
+    const NearMesh& mesh = pager_.getNearMesh();
+    const auto side = static_cast<size_t>(mesh.getSampleAmount());
+    nearMeshes_ = TerrainMeshPair(mesh.makeIndices(), side * side, mesh.getSampleAmount());
+}
+
 void TerrainManager::exchangeNearMesh() {
+    if (!nearMeshes_.getActive())
+        makeNearMeshes();
     PanelManager* panels = context_->getPanelManager();
     nearMeshes_.fill(news_.near, boxOf(news_.near));
     panels->OnTerrainNodesDelete();
@@ -103,6 +106,9 @@ void TerrainManager::exchangeNearMesh() {
 }
 
 void TerrainManager::exchangeWideMesh() {
+    constexpr size_t vertexCount = static_cast<size_t>(WideMesh::Rings) * WideMesh::VerticesPerRing;
+    if (!wideMeshes_.getActive())
+        wideMeshes_ = TerrainMeshPair(WideMesh::makeIndices(), vertexCount, 0);
     PanelManager* panels = context_->getPanelManager();
     constexpr float far = WideMesh::BoxMetres;
     wideMeshes_.fill(news_.wide, irr::core::aabbox3df(-far, -far, -far, far, far, far));

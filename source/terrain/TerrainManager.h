@@ -46,7 +46,7 @@ public:
     float getCurrentElevation() const;
 
     // The meshes lie around their positions: x east, y up from sea level, z north, in metres. They hold until the
-    // panels are told to delete their nodes.
+    // panels are told to delete their nodes; null before the first.
     irr::scene::IMesh* getActiveMesh() const { return nearMeshes_.getActive(); }
     irr::scene::IMesh* getActiveWideMesh() const { return wideMeshes_.getActive(); }
     const ChartPosition& getActiveMeshPosition() const { return news_.near.centre; }
@@ -79,6 +79,7 @@ public:
 
 private:
     TerrainPager::Aircraft readAircraft() const;
+    void makeNearMeshes();
     void exchangeNearMesh();
     void exchangeWideMesh();
     void deliver();

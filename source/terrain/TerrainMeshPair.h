@@ -11,6 +11,8 @@ namespace skyvane {
 /// Two engine meshes of the same triangles that take turns: one is drawn while the other is filled. Main thread only.
 class TerrainMeshPair {
 public:
+    /// No meshes yet: getActive is null.
+    TerrainMeshPair() = default;
     /// Vertices are white; texture coordinates run over a square grid, or are 0 for other meshes.
     TerrainMeshPair(const std::vector<uint16_t>& indices, size_t vertexCount, int gridSide);
 

@@ -24,7 +24,9 @@ double drawInwards(double r, double k) {
 
 } // namespace
 
-NearMesh::NearMesh(int sampleAmount) : sampleAmount_(std::clamp(sampleAmount, 2, 256)) {
+NearMesh::NearMesh(int sampleAmount) : sampleAmount_(std::clamp(sampleAmount, 2, 256)) {}
+
+void NearMesh::placeVertices() {
     const double k = std::exp(-1.0 / (2.0 * sigma));
     const double halfSide = sampleAmount_ / 2.0;
     places_.reserve(static_cast<size_t>(sampleAmount_) * static_cast<size_t>(sampleAmount_));
@@ -39,7 +41,9 @@ NearMesh::NearMesh(int sampleAmount) : sampleAmount_(std::clamp(sampleAmount, 2,
         }
 }
 
-void NearMesh::build(TerrainSampler& terrain, const ChartPosition& centre, TerrainMesh& mesh) const {
+void NearMesh::build(TerrainSampler& terrain, const ChartPosition& centre, TerrainMesh& mesh) {
+    if (places_.empty())
+        placeVertices();
     mesh.vertices.resize(places_.size());
     mesh.centre = centre;
     mesh.radiusMetres = static_cast<float>(RadiusMetres);

@@ -18,7 +18,7 @@ public:
     explicit NearMesh(int sampleAmount);
 
     /// Vertices in rows from south to north, each from west to east. Allocates only for the first mesh.
-    void build(TerrainSampler& terrain, const ChartPosition& centre, TerrainMesh& mesh) const;
+    void build(TerrainSampler& terrain, const ChartPosition& centre, TerrainMesh& mesh);
 
     int getSampleAmount() const { return sampleAmount_; }
     /// Triangles, clockwise seen from above, those nearest to the middle first.
@@ -30,8 +30,10 @@ private:
         double density; ///< Samples per square kilometre.
     };
 
+    void placeVertices();
+
     int sampleAmount_;
-    std::vector<Place> places_;
+    std::vector<Place> places_; ///< Made with the first mesh.
 };
 
 } // namespace skyvane

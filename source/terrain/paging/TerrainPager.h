@@ -97,7 +97,7 @@ private:
     };
 
     TerrainStore& store_;
-    const NearMesh nearMesh_;
+    NearMesh nearMesh_; ///< The thread's but for its size and triangles.
     const WideMesh wideMesh_;
     unsigned long thread_ = 0;
     bool started_ = false;

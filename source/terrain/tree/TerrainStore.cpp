@@ -14,9 +14,15 @@ constexpr double ShareKeptUnderPressure = 0.9;
 
 TerrainStore::TerrainStore(std::string folder, int cacheSize)
     : folder_(std::move(folder)), leastTiles_(static_cast<size_t>(std::max(cacheSize, 1) * LeastCacheShare)),
-      nodes_(new MMTerrainNode[TerrainNodeCount]), cache_(static_cast<size_t>(std::max(cacheSize, 1))) {
-    int nextId = 0;
-    nodes_[0].init(this, nullptr, nextId);
+      cache_(static_cast<size_t>(std::max(cacheSize, 1))) {}
+
+MMTerrainNode* TerrainStore::getRoot() {
+    if (!nodes_) {
+        nodes_.reset(new MMTerrainNode[TerrainNodeCount]);
+        int nextId = 0;
+        nodes_[0].init(this, nullptr, nextId);
+    }
+    return nodes_.get();
 }
 
 ITerrainData* TerrainStore::requestCachedTerrainData(ITerrainNode* node) {

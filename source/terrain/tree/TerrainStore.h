@@ -26,9 +26,10 @@ public:
     TerrainStore(const TerrainStore&) = delete;
     TerrainStore& operator=(const TerrainStore&) = delete;
 
-    MMTerrainNode* getRoot() { return nodes_.get(); }
+    /// The first call makes the tree, some 10 ms of work that a start needn't wait for.
+    MMTerrainNode* getRoot();
     /// By id, 0 to TerrainNodeCount - 1.
-    MMTerrainNode* getNode(int id) { return nodes_.get() + id; }
+    MMTerrainNode* getNode(int id) { return getRoot() + id; }
     const std::string& getFolder() const { return folder_; }
 
     /// The node's tile through the cache; it holds until the next request. Null when even the one last asked for finds

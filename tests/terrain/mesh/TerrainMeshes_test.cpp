@@ -41,7 +41,7 @@ protected:
 
 TEST_F(TerrainMeshes, coverTheGroundAroundTheAircraft) {
     saveSlope();
-    const NearMesh near(181);
+    NearMesh near(181);
     const ChartPosition centre(1.4, 42.3);
     near.build(sampler_, centre, mesh_);
     ASSERT_EQ(mesh_.vertices.size(), 32761u);
@@ -85,7 +85,7 @@ TEST_F(TerrainMeshes, reachToTheHorizon) {
 }
 
 TEST_F(TerrainMeshes, sayWhenThereIsNothing) {
-    const NearMesh near(16);
+    NearMesh near(16);
     near.build(sampler_, {1.4, 42.3}, mesh_);
     EXPECT_TRUE(mesh_.undefined);
     EXPECT_EQ(mesh_.vertices[17].position.Y, 0.0f);
