@@ -31,6 +31,18 @@ FileWindow::~FileWindow() {
         ::close(handle_);
 }
 
+size_t FileWindow::read(uint64_t offset, uint8_t* bytes, size_t count) const {
+    size_t filled = 0;
+    while (filled < count) {
+        const ssize_t got = ::pread(handle_, bytes + filled, count - filled, static_cast<off_t>(offset + filled));
+        if (got > 0)
+            filled += static_cast<size_t>(got);
+        else if (got == 0 || errno != EINTR)
+            break;
+    }
+    return filled;
+}
+
 const uint8_t* FileWindow::slideTo(uint64_t offset, size_t count) {
     if (offset > size_ || count > size_ - offset)
         return nullptr;
@@ -38,15 +50,7 @@ const uint8_t* FileWindow::slideTo(uint64_t offset, size_t count) {
     if (wanted > bytes_.size())
         bytes_.resize(std::max(wanted, WindowBytes));
     begin_ = offset;
-    filled_ = 0;
-    while (filled_ < wanted) {
-        const ssize_t got =
-            ::pread(handle_, bytes_.data() + filled_, wanted - filled_, static_cast<off_t>(offset + filled_));
-        if (got > 0)
-            filled_ += static_cast<size_t>(got);
-        else if (got == 0 || errno != EINTR)
-            break;
-    }
+    filled_ = read(offset, bytes_.data(), wanted);
     return filled_ >= count ? bytes_.data() : nullptr;
 }
 

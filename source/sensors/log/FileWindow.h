@@ -18,6 +18,8 @@ public:
 
     bool isGood() const { return handle_ >= 0; }
     uint64_t size() const { return size_; }
+    /// Copies up to `count` bytes from `offset` on, and gives how many there were. Any thread.
+    size_t read(uint64_t offset, uint8_t* bytes, size_t count) const;
     /// `count` bytes from `offset` on; null when they aren't all there. They stay until the next call.
     const uint8_t* at(uint64_t offset, size_t count) {
         if (offset >= begin_ && offset - begin_ <= filled_ && count <= filled_ - (offset - begin_))

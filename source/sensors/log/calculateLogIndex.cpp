@@ -3,6 +3,7 @@
 #include "sensors/log/FileWindow.h"
 #include "sensors/log/LogIndex.h"
 #include "sensors/log/LogLayout.h"
+#include "sensors/log/ReadAhead.h"
 #include "sensors/records/Attitude_Data.h"
 
 #include <fcntl.h>
@@ -60,12 +61,13 @@ bool isForsakenIndex(const LogRecordHeader& record, const LogIndex& index, const
 }
 
 /// Walks through the records and gives the offset at which they end.
-uint64_t scan(FileWindow& file, const LogHeader& header, LogIndex& index) {
+uint64_t scan(const FileWindow& file, const LogHeader& header, LogIndex& index) {
+    ReadAhead bytesAhead(file);
     uint64_t place = header.length;
     unsigned firstMs = 0;
     // Room for the usual records, so that the list moves seldom; memory that isn't needed is never touched.
     index.samples.reserve(file.size() / UsualRecordBytes);
-    while (const uint8_t* bytes = place <= LogLargestOffset ? file.at(place, LogRecordHeader::Bytes) : nullptr) {
+    while (const uint8_t* bytes = place <= LogLargestOffset ? bytesAhead.at(place, LogRecordHeader::Bytes) : nullptr) {
         const LogRecordHeader record = LogRecordHeader::read(bytes);
         if (isForsakenIndex(record, index, header))
             return place;
@@ -75,7 +77,7 @@ uint64_t scan(FileWindow& file, const LogHeader& header, LogIndex& index) {
         if (index.samples.empty())
             firstMs = record.timeMs;
         if (record.type == ISensorData::Attitude && record.length >= Attitude_Data::FormLength)
-            if (const uint8_t* attitude = file.at(form, Attitude_Data::FormLength))
+            if (const uint8_t* attitude = bytesAhead.at(form, Attitude_Data::FormLength))
                 if (isKey(attitude, Attitude_Data::FormLength))
                     index.keys.push_back(static_cast<uint32_t>(index.samples.size()));
         index.samples.push_back({TimeDiff(record.timeMs, firstMs), static_cast<uint32_t>(place)});
