@@ -3,6 +3,7 @@
 #include "core/engine/DesktopSize.h"
 #include "core/engine/EngineRef.h"
 #include "core/engine/ShowState.h"
+#include "core/engine/StoredPngLoader.h"
 #include "core/geometry/Rectangles.h"
 #include "core/system/CommandLine.h"
 #include "core/time/Time.h"
@@ -41,6 +42,7 @@ EngineRef<irr::IrrlichtDevice> openWindow(const CommandLine& line) {
 
 void prepareDevice(irr::IrrlichtDevice& device) {
     irr::video::IVideoDriver* driver = device.getVideoDriver();
+    driver->addExternalImageLoader(EngineRef<StoredPngLoader>::adopt(new StoredPngLoader(driver)).get());
     driver->setViewPort({irr::core::position2di(0, 0), irr::core::dimension2di(driver->getScreenSize())});
     device.setWindowCaption(L"Skyvane");
     device.getLogger()->setLogLevel(irr::ELL_DEBUG);
