@@ -16,6 +16,17 @@ void showText(irr::gui::IGUIElement* element, const wchar_t* text) {
         element->setText(text);
 }
 
+std::wstring fitText(irr::gui::IGUIFont* font, std::wstring text, int width) {
+    const auto isTooWide = [&](const std::wstring& shown) {
+        return static_cast<int>(font->getDimension(shown.c_str()).Width) > width;
+    };
+    if (!font || !isTooWide(text))
+        return text;
+    while (!text.empty() && isTooWide(text + L"..."))
+        text.pop_back();
+    return text + L"...";
+}
+
 bool isClickOf(const irr::SEvent& event, const irr::gui::IGUIElement* button) {
     return button && event.EventType == irr::EET_GUI_EVENT &&
            event.GUIEvent.EventType == irr::gui::EGET_BUTTON_CLICKED && event.GUIEvent.Caller == button;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <irrlicht.h>
+#include <string>
 
 namespace skyvane {
 
@@ -9,6 +10,9 @@ void removeWindow(irr::gui::IGUIElement* window);
 
 /// Sets the text when it is another one: what stays the same is laid out once.
 void showText(irr::gui::IGUIElement* element, const wchar_t* text);
+
+/// The text as far as it fits into that many pixels, its end replaced by dots where it doesn't.
+std::wstring fitText(irr::gui::IGUIFont* font, std::wstring text, int width);
 
 /// Whether this is the click of that button; never for null.
 bool isClickOf(const irr::SEvent& event, const irr::gui::IGUIElement* button);

@@ -17,9 +17,10 @@ void CoursePreview::show(Scene scene) {
     frame_.reset();
 }
 
-bool CoursePreview::isDue(const IndicatedProcedure& line) {
+bool CoursePreview::isDue(const IndicatedProcedure& line, bool followsAircraft) {
     const unsigned now = MilliSecs();
-    if (isShown_ && dueIndex_ == line.chartIndex && TimeDiff(now, dueMilliseconds_) < renewalMilliseconds)
+    const bool isOld = followsAircraft && TimeDiff(now, dueMilliseconds_) >= renewalMilliseconds;
+    if (isShown_ && dueIndex_ == line.chartIndex && !isOld)
         return false;
     isShown_ = true;
     dueIndex_ = line.chartIndex;
@@ -50,7 +51,7 @@ void CoursePreview::paint(const irr::core::rect<int>& rect) {
     painter_.drawCourse(picture_);
     for (const ChartPosition& fix : scene_.fixes)
         painter_.drawFix(frame_->toPixels(fix));
-    painter_.drawAircraft(*frame_);
+    painter_.drawAircraft(*frame_, PreviewPainter::SmallShare);
 }
 
 } // namespace skyvane

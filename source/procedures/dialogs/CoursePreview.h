@@ -29,8 +29,8 @@ public:
     explicit CoursePreview(Context& context) : painter_(context) {}
 
     void show(Scene scene);
-    /// What is shown is of another line than this one, or a second old.
-    bool isDue(const IndicatedProcedure& line);
+    /// What is shown is of another line than this one, or a second old where its content follows the aircraft.
+    bool isDue(const IndicatedProcedure& line, bool followsAircraft);
     void paint(const irr::core::rect<int>& rect);
 
 private:

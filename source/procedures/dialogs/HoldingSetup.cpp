@@ -18,7 +18,7 @@ bool HoldingSetup::setup(IndicatedProcedure& procedure, IChartElement* element) 
 
 /// The usual pattern; its course follows the aircraft.
 void HoldingSetup::renderPreview(IndicatedProcedure* procedure, irr::core::rect<int> rect) {
-    if (preview_.isDue(*procedure)) {
+    if (preview_.isDue(*procedure, true)) {
         IChartElementSource* charts = context_.getCharts();
         prepare(*procedure, charts ? charts->getChartElement(procedure->chartIndex) : nullptr);
         CoursePreview::Scene scene;

@@ -22,7 +22,7 @@ bool InterceptSetup::setup(IndicatedProcedure& procedure, IChartElement* element
 }
 
 void InterceptSetup::renderPreview(IndicatedProcedure* procedure, irr::core::rect<int> rect) {
-    if (preview_.isDue(*procedure)) {
+    if (preview_.isDue(*procedure, false)) {
         IChartElementSource* charts = context_.getCharts();
         prepare(*procedure, charts ? charts->getChartElement(procedure->chartIndex) : nullptr);
         CoursePreview::Scene scene;

@@ -17,12 +17,12 @@ using irr::video::SColor;
 // Those of the highway in the sky.
 const SColor properColor(0xffff50ff), transitionColor(0xff46d1ff);
 const SColor outsideColor(0x64ffffff), frameColor(0xff000000), fixColor(0xfff6f8fb);
-constexpr int courseWidth = 3, fixSide = 9;
+constexpr int courseWidth = 3, fixSide = 11;
 constexpr double arrowPixels = 9.0, arrowSpread = 150.0, degreesToRadians = 0.017453292519943295;
 const Drawer2D::PointF middle(0.5f, 0.5f), beforeThreshold(0.5f, -0.2f);
 
-int symbolSide(const PreviewPainter::Rect& rect) {
-    return static_cast<int>(static_cast<int>(std::sqrt(std::max(0, rect.getWidth() * rect.getHeight()))) * 0.2);
+int symbolSide(const PreviewPainter::Rect& rect, double share) {
+    return static_cast<int>(static_cast<int>(std::sqrt(std::max(0, rect.getWidth() * rect.getHeight()))) * share);
 }
 
 PreviewPainter::Rect squareAround(Point place, int side) {
@@ -37,21 +37,21 @@ void PreviewPainter::load() {
     loaded_ = true;
     aircraft_ = loadPanelImage(&context_, "media/plane.png");
     arrow_ = loadPanelImage(&context_, "media/runArrow.png");
-    line_ = loadPanelImage(&context_, "media/roundline.png");
+    line_ = loadPanelImage(&context_, "media/white.png");
 }
 
 void PreviewPainter::drawElement(int id, const Rect& rect) {
     IChartElementSource* charts = context_.getCharts();
     if (IChartElement* element = charts ? charts->getChartElement(id) : nullptr)
-        drawElementSketch(context_, element, rect);
+        drawElementSketch(context_, element, sketchRect(rect));
 }
 
-void PreviewPainter::drawAircraft(const PreviewFrame& frame) {
+void PreviewPainter::drawAircraft(const PreviewFrame& frame, double share) {
     load();
     const FlightReadings readings = readFlight(*context_.getSensorManager());
     if (!readings.position)
         return;
-    const int side = symbolSide(frame.getPicture());
+    const int side = symbolSide(frame.getPicture(), share);
     const AircraftMark mark = placeAircraft(frame, *readings.position, side);
     Drawer2D* drawer = context_.getDrawer();
     if (mark.isOutside) {
@@ -64,7 +64,7 @@ void PreviewPainter::drawAircraft(const PreviewFrame& frame) {
 
 void PreviewPainter::drawArrow(const RunwayArrow& arrow, const Rect& rect) {
     load();
-    const int side = symbolSide(rect);
+    const int side = symbolSide(rect, LargeShare);
     context_.getDrawer()->Draw(arrow_.get(), arrow.threshold, {side, side}, static_cast<float>(-arrow.courseDegrees),
                                beforeThreshold);
 }

@@ -15,13 +15,15 @@ class Context;
 class PreviewPainter {
 public:
     using Rect = irr::core::rect<int>;
+    /// The side of symbols as a share of a picture's.
+    static constexpr double LargeShare = 0.2, SmallShare = 0.13;
 
     explicit PreviewPainter(Context& context) : context_(context) {}
 
-    /// The element of the charts with that id, as its renderer sketches it.
+    /// The element of the charts with that id, as its renderer sketches it, in the middle of the picture.
     void drawElement(int id, const Rect& rect);
     /// The place where the aircraft is, if anybody knows it; on the edge of the picture when it is beyond.
-    void drawAircraft(const PreviewFrame& frame);
+    void drawAircraft(const PreviewFrame& frame, double share = LargeShare);
     void drawArrow(const RunwayArrow& arrow, const Rect& rect);
     void drawCourse(const CoursePicture& course);
     void drawLine(PreviewFrame::Point from, PreviewFrame::Point to, int width, irr::video::SColor color);

@@ -16,16 +16,25 @@ namespace {
 
 constexpr const char* RecentFile = "data/recent";
 constexpr const char* NoChartsText = "No charts are installed.";
+constexpr int RowMargin = 12; ///< Of a text in a row, both sides.
 
 template <class Element>
 EngineRef<Element> held(Element* element) {
     return EngineRef<Element>::share(element);
 }
 
-void fill(irr::gui::IGUIListBox* list, const std::vector<std::string>& rows, int selected) {
+void fill(Context& context, irr::gui::IGUIListBox* list, const std::vector<std::string>& rows, int selected) {
     list->clear();
+    const irr::gui::IGUISkin* skin = context.getIrrlichtDevice()->getGUIEnvironment()->getSkin();
+    const int scrollBar = skin->getSize(irr::gui::EGDS_SCROLLBAR_SIZE);
+    const int room =
+        list->getAbsolutePosition().getWidth() -
+        (static_cast<int>(rows.size()) * context.getRecommendedButtonHeight() > list->getAbsolutePosition().getHeight()
+             ? scrollBar
+             : 0) -
+        RowMargin;
     for (const std::string& row : rows)
-        list->addItem(decodeUtf8(row).c_str());
+        list->addItem(fitText(skin->getFont(), decodeUtf8(row), room).c_str());
     list->setSelected(selected);
 }
 
@@ -123,7 +132,7 @@ void SearchBoxHandler::calculateDestination(const IChartElement* element, int id
             labels.push_back(row.label);
         }
         if (held_.list)
-            fill(held_.list.get(), labels, found->selected);
+            fill(*context_, held_.list.get(), labels, found->selected);
         calculateProcedures();
     }
     showHint();
@@ -157,7 +166,7 @@ void SearchBoxHandler::calculateProcedures() {
     previousRow_ = selectLine(static_cast<int>(rows.size()), previousRow_, id == previousId_);
     previousId_ = id;
     if (held_.procedures)
-        fill(held_.procedures.get(), rows, previousRow_);
+        fill(*context_, held_.procedures.get(), rows, previousRow_);
 }
 
 void SearchBoxHandler::showDistance(const IChartElement* element) {

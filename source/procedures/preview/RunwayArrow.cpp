@@ -9,6 +9,9 @@
 namespace skyvane {
 namespace {
 
+/// Beyond a runway that fills it, an arrow of a fifth of the picture has room in any direction.
+constexpr double sketchShare = 0.58;
+
 /// That of the element when it was read from a chart, or one made for the call.
 template <class Use>
 auto withSketch(const AirportElement& airport, Use use) {
@@ -17,9 +20,17 @@ auto withSketch(const AirportElement& airport, Use use) {
 
 } // namespace
 
+PreviewFrame::Rect sketchRect(const PreviewFrame::Rect& picture) {
+    const int x = static_cast<int>(picture.getWidth() * (1.0 - sketchShare) / 2.0);
+    const int y = static_cast<int>(picture.getHeight() * (1.0 - sketchShare) / 2.0);
+    return {picture.UpperLeftCorner.X + x, picture.UpperLeftCorner.Y + y, picture.LowerRightCorner.X - x,
+            picture.LowerRightCorner.Y - y};
+}
+
 PreviewFrame sketchFrame(const AirportElement& airport, const PreviewFrame::Rect& picture) {
-    const irr::core::dimension2d<uint32_t> size(static_cast<uint32_t>(std::max(0, picture.getWidth())),
-                                                static_cast<uint32_t>(std::max(0, picture.getHeight())));
+    const PreviewFrame::Rect middle = sketchRect(picture);
+    const irr::core::dimension2d<uint32_t> size(static_cast<uint32_t>(std::max(0, middle.getWidth())),
+                                                static_cast<uint32_t>(std::max(0, middle.getHeight())));
     const double factor =
         withSketch(airport, [&size](const AirportSketch& sketch) { return sketch.getPositionFactor(size); });
     return {airport.position, factor, picture};

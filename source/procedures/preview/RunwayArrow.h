@@ -7,7 +7,9 @@
 
 namespace skyvane {
 
-/// The frame in which an airport's sketch stands on a picture: around its reference point, as large as
+/// The middle of a picture, which the airport's sketch has: around it there is room for the arrow.
+PreviewFrame::Rect sketchRect(const PreviewFrame::Rect& picture);
+/// The frame of the whole picture in which the sketch stands: around the airport's reference point, as large as
 /// AirportSketch::getPositionFactor makes it.
 PreviewFrame sketchFrame(const AirportElement& airport, const PreviewFrame::Rect& picture);
 
