@@ -3,6 +3,7 @@
 #include "chart/store/IChartElementSource.h"
 #include "core/Context.h"
 #include "displays/drawing/Drawer2D.h"
+#include "displays/mapmath/elements/AirportSketchPlan.h"
 #include "procedures/dialogs/ElementSketch.h"
 #include "procedures/framework/FlightReadings.h"
 
@@ -17,6 +18,8 @@ using irr::video::SColor;
 // Those of the highway in the sky.
 const SColor properColor(0xffff50ff), transitionColor(0xff46d1ff);
 const SColor outsideColor(0x64ffffff), frameColor(0xff000000), fixColor(0xfff6f8fb);
+const SColor grassColor(SketchGrass);
+constexpr int sketchEdge = 2; ///< What frames a sketch isn't wanted within a picture.
 constexpr int courseWidth = 3, fixSide = 11;
 constexpr double arrowPixels = 9.0, arrowSpread = 150.0, degreesToRadians = 0.017453292519943295;
 const Drawer2D::PointF middle(0.5f, 0.5f), beforeThreshold(0.5f, -0.2f);
@@ -42,8 +45,13 @@ void PreviewPainter::load() {
 
 void PreviewPainter::drawElement(int id, const Rect& rect) {
     IChartElementSource* charts = context_.getCharts();
-    if (IChartElement* element = charts ? charts->getChartElement(id) : nullptr)
-        drawElementSketch(context_, element, sketchRect(rect));
+    IChartElement* element = charts ? charts->getChartElement(id) : nullptr;
+    if (!element)
+        return;
+    context_.getDrawer()->drawFilledRect(rect, grassColor);
+    drawElementSketch(context_, element, sketchRect(rect));
+    context_.getDrawer()->resetViewPort();
+    context_.getDrawer()->drawOutline(sketchRect(rect), grassColor, sketchEdge);
 }
 
 void PreviewPainter::drawAircraft(const PreviewFrame& frame, double share) {

@@ -2,15 +2,16 @@
 
 #include "chart/elements/AirportElement.h"
 #include "chart/geodesy/EarthConstants.h"
+#include "chart/geodesy/LocalFrame.h"
+#include "displays/mapmath/elements/AirportSketchPlan.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace skyvane {
 namespace {
 
 /// Beyond a runway that fills it, an arrow of a fifth of the picture has room in any direction.
-constexpr double sketchShare = 0.58;
+constexpr double sketchShare = 0.72;
 
 /// That of the element when it was read from a chart, or one made for the call.
 template <class Use>
@@ -29,26 +30,24 @@ PreviewFrame::Rect sketchRect(const PreviewFrame::Rect& picture) {
 
 PreviewFrame sketchFrame(const AirportElement& airport, const PreviewFrame::Rect& picture) {
     const PreviewFrame::Rect middle = sketchRect(picture);
-    const irr::core::dimension2d<uint32_t> size(static_cast<uint32_t>(std::max(0, middle.getWidth())),
-                                                static_cast<uint32_t>(std::max(0, middle.getHeight())));
-    const double factor =
-        withSketch(airport, [&size](const AirportSketch& sketch) { return sketch.getPositionFactor(size); });
-    return {airport.position, factor, picture};
+    SketchFrame frame;
+    frame.size = {middle.getWidth(), middle.getHeight()};
+    const SketchScale scale =
+        withSketch(airport, [&frame](const AirportSketch& sketch) { return fitAirportSketch(sketch, frame); });
+    return {Vector3df642ChartPosition(airport.position, {scale.centre.X, 0.0, scale.centre.Y}), scale.factor, picture};
 }
 
 std::optional<RunwayArrow> pointToRunway(const AirportElement& airport, const AppRunway& runway,
                                          const PreviewFrame::Rect& picture) {
     if (runway.runwayIndex < 0 || static_cast<size_t>(runway.runwayIndex) >= airport.runways.size())
         return std::nullopt;
-    const double factor = sketchFrame(airport, picture).getPixelsPerMetre();
+    const PreviewFrame frame = sketchFrame(airport, picture);
     return withSketch(airport, [&](const AirportSketch& sketch) -> std::optional<RunwayArrow> {
         const auto& ends = sketch.getStrips()[static_cast<size_t>(runway.runwayIndex)].ends;
-        const AirportSketch::Point landing = ends[runway.primary ? 0 : 1],
-                                   along = ends[runway.primary ? 1 : 0] - landing;
-        const PreviewFrame::Point middle = picture.getCenter();
-        return RunwayArrow{{middle.X + static_cast<int>(std::lround(factor * landing.X)),
-                            middle.Y - static_cast<int>(std::lround(factor * landing.Y))},
-                           std::atan2(along.X, along.Y) * DegreesPerRadian};
+        const AirportSketch::Point landing = ends[runway.primary ? 0 : 1];
+        const AirportSketch::Point along = ends[runway.primary ? 1 : 0] - landing;
+        const ChartPosition threshold = Vector3df642ChartPosition(airport.position, {landing.X, 0.0, landing.Y});
+        return RunwayArrow{frame.toPixels(threshold), std::atan2(along.X, along.Y) * DegreesPerRadian};
     });
 }
 

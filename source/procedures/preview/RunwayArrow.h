@@ -9,8 +9,7 @@ namespace skyvane {
 
 /// The middle of a picture, which the airport's sketch has: around it there is room for the arrow.
 PreviewFrame::Rect sketchRect(const PreviewFrame::Rect& picture);
-/// The frame of the whole picture in which the sketch stands: around the airport's reference point, as large as
-/// AirportSketch::getPositionFactor makes it.
+/// The frame of the whole picture in which the sketch stands.
 PreviewFrame sketchFrame(const AirportElement& airport, const PreviewFrame::Rect& picture);
 
 /// An arrow on the sketch that points to the end of a runway on which an approach lands, in the direction of landing.

@@ -14,44 +14,17 @@ namespace skyvane {
 
 namespace {
 
-constexpr uint32_t grass = 0xff3f5d43, grassEdge = 0xff26382b, identColor = 0xffffffff, lengthColor = 0xffffe08a,
-                   frameColor = 0xffdfe6ec;
+constexpr uint32_t grassEdge = 0xff26382b, identColor = 0xffffffff, lengthColor = 0xffffe08a, frameColor = 0xffdfe6ec;
 constexpr double degreesPerRadian = 57.29577951308232;
 constexpr double leastExtentMetres = 200.0;
+constexpr double textHeightsAround = 1.9;
 constexpr double leastRunwayWidth = 4.0;
 constexpr double leastTurnedHeight = 13.0;
 constexpr int labelRounds = 40;
 
 using Strip = AirportSketch::Strip;
 
-/// From the airport's frame to pixels.
-struct Scale {
-    ShapePoint centre; ///< Metres, in the middle of the picture.
-    ShapePoint middle; ///< Pixels.
-    double factor = 1.0;
-
-    ShapePoint operator()(const ShapePoint& metres) const {
-        return middle + ShapePoint(metres.X - centre.X, centre.Y - metres.Y) * factor;
-    }
-};
-
-Scale fit(const std::vector<Strip>& strips, const SketchFrame& frame, double margin) {
-    const double huge = std::numeric_limits<double>::max();
-    ShapePoint low(huge, huge), high(-huge, -huge);
-    for (const Strip& strip : strips)
-        for (const ShapePoint& corner : strip.corners) {
-            low = ShapePoint(std::min(low.X, corner.X), std::min(low.Y, corner.Y));
-            high = ShapePoint(std::max(high.X, corner.X), std::max(high.Y, corner.Y));
-        }
-    const ShapePoint extent(std::max(high.X - low.X, leastExtentMetres), std::max(high.Y - low.Y, leastExtentMetres));
-    const ShapePoint room(std::max(10.0, frame.size.Width - 2.0 * margin),
-                          std::max(10.0, frame.size.Height - 2.0 * margin));
-    Scale scale;
-    scale.centre = (low + high) / 2.0;
-    scale.middle = ShapePoint(0.5 * frame.size.Width, 0.5 * frame.size.Height);
-    scale.factor = std::min(room.X / extent.X, room.Y / extent.Y);
-    return scale;
-}
+using Scale = SketchScale;
 
 ShapeRect viewOf(const SketchFrame& frame) {
     return {0.0, 0.0, static_cast<double>(frame.size.Width), static_cast<double>(frame.size.Height)};
@@ -190,7 +163,7 @@ void addPad(SketchPlan& plan, const AirportElement& airport, const SketchFrame& 
     addDisc(plan.shapes, middle, 1.25 * size, frameColor);
     addDisc(plan.shapes, middle, 1.15 * size, 0xff4a4f57);
     if (!airport.isHeliport)
-        return addDisc(plan.shapes, middle, 0.85 * size, grass);
+        return addDisc(plan.shapes, middle, 0.85 * size, SketchGrass);
     const float width = static_cast<float>(0.22 * size);
     const ShapeRect view = viewOf(frame);
     for (const double x : {-0.42, 0.42})
@@ -209,7 +182,28 @@ double sketchTextHeight(const SketchFrame& frame) {
 void addSketchGround(SketchPlan& plan, const SketchFrame& frame) {
     const double w = frame.size.Width, h = frame.size.Height;
     addConvex(plan.shapes, {{0.0, 0.0}, {w, 0.0}, {w, h}, {0.0, h}}, grassEdge);
-    addConvex(plan.shapes, {{1.5, 1.5}, {w - 1.5, 1.5}, {w - 1.5, h - 1.5}, {1.5, h - 1.5}}, grass);
+    addConvex(plan.shapes, {{1.5, 1.5}, {w - 1.5, 1.5}, {w - 1.5, h - 1.5}, {1.5, h - 1.5}}, SketchGrass);
+}
+
+SketchScale fitAirportSketch(const AirportSketch& sketch, const SketchFrame& frame) {
+    SketchScale scale;
+    scale.middle = ShapePoint(0.5 * frame.size.Width, 0.5 * frame.size.Height);
+    if (sketch.getStrips().empty())
+        return scale;
+    const double huge = std::numeric_limits<double>::max();
+    ShapePoint low(huge, huge), high(-huge, -huge);
+    for (const Strip& strip : sketch.getStrips())
+        for (const ShapePoint& corner : strip.corners) {
+            low = ShapePoint(std::min(low.X, corner.X), std::min(low.Y, corner.Y));
+            high = ShapePoint(std::max(high.X, corner.X), std::max(high.Y, corner.Y));
+        }
+    const double margin = textHeightsAround * sketchTextHeight(frame);
+    const ShapePoint extent(std::max(high.X - low.X, leastExtentMetres), std::max(high.Y - low.Y, leastExtentMetres));
+    const ShapePoint room(std::max(10.0, frame.size.Width - 2.0 * margin),
+                          std::max(10.0, frame.size.Height - 2.0 * margin));
+    scale.centre = (low + high) / 2.0;
+    scale.factor = std::min(room.X / extent.X, room.Y / extent.Y);
+    return scale;
 }
 
 SketchPlan planAirportSketch(const AirportElement& airport, const AirportGround& ground, const SketchFrame& frame) {
@@ -224,7 +218,7 @@ SketchPlan planAirportSketch(const AirportElement& airport, const AirportGround&
         addPad(plan, airport, frame);
         return plan;
     }
-    const Scale scale = fit(strips, frame, 1.9 * sketchTextHeight(frame));
+    const Scale scale = fitAirportSketch(sketch, frame);
     plan.pixelsPerMetre = scale.factor;
     addGround(plan, ground, scale, frame);
     for (const Strip& strip : strips) {

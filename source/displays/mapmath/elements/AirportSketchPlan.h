@@ -1,5 +1,6 @@
 #pragma once
 
+#include "chart/elements/AirportSketch.h"
 #include "displays/mapmath/elements/AirportGround.h"
 #include "displays/shapes/ShapeMesh.h"
 
@@ -31,6 +32,20 @@ struct SketchFrame {
     std::function<double(const std::string&, double)> widthOf;
 };
 
+/// From an airport's local frame, metres east and north of its reference point, to pixels of its sketch.
+struct SketchScale {
+    ShapePoint centre; ///< Metres, in the middle of the picture.
+    ShapePoint middle; ///< Pixels.
+    double factor = 1.0;
+
+    ShapePoint operator()(const ShapePoint& metres) const {
+        return middle + ShapePoint(metres.X - centre.X, centre.Y - metres.Y) * factor;
+    }
+};
+/// That of planAirportSketch: all runways with room for their idents. The frame's texts don't count.
+SketchScale fitAirportSketch(const AirportSketch& sketch, const SketchFrame& frame);
+
+constexpr uint32_t SketchGrass = 0xff3f5d43;
 /// The ground of sketches and what frames it.
 void addSketchGround(SketchPlan& plan, const SketchFrame& frame);
 /// The height of a line of text in a sketch of that size.
