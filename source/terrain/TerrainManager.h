@@ -56,6 +56,10 @@ public:
     /// No terrain in the mesh, or no mesh, or a place that nobody knows: it isn't to be drawn.
     bool isWholeMeshUndefined() const { return news_.lost || news_.near.undefined; }
     bool isWholeWideMeshUndefined() const { return news_.lost || news_.wide.undefined; }
+    /// Nobody knows all heights of the near mesh; what is missing in it looks like the sea.
+    bool isMeshIncomplete() const { return news_.lost || news_.near.incomplete; }
+    /// Vertices per side of the near mesh.
+    int getMeshSampleAmount() const { return pager_.getNearMesh().getSampleAmount(); }
 
     // Metres, within the meshes.
     float getMaxTerrainElevationInVicinity() const;

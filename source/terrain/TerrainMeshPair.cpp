@@ -3,6 +3,11 @@
 #include <algorithm>
 
 namespace skyvane {
+namespace {
+
+const irr::video::SColor knownColor(0xffffffff), unknownColor(0xff000000);
+
+} // namespace
 
 TerrainMeshPair::Instance TerrainMeshPair::makeInstance(const std::vector<uint16_t>& indices, size_t vertexCount,
                                                         int gridSide) {
@@ -10,7 +15,7 @@ TerrainMeshPair::Instance TerrainMeshPair::makeInstance(const std::vector<uint16
     buffer->Vertices.set_used(static_cast<irr::u32>(vertexCount));
     for (size_t i = 0; i < vertexCount; ++i) {
         irr::video::S3DVertex& vertex = buffer->Vertices[static_cast<irr::u32>(i)];
-        vertex.Color = irr::video::SColor(0xffffffff);
+        vertex.Color = knownColor;
         if (gridSide > 1) {
             const auto side = static_cast<size_t>(gridSide);
             vertex.TCoords.set(static_cast<float>(i % side) / static_cast<float>(side - 1),
@@ -35,6 +40,7 @@ void TerrainMeshPair::fill(const TerrainMesh& mesh, const irr::core::aabbox3df& 
     for (size_t i = 0; i < count; ++i, ++vertex) {
         vertex->Pos = mesh.vertices[i].position;
         vertex->Normal = mesh.vertices[i].normal;
+        vertex->Color = mesh.vertices[i].isKnown ? knownColor : unknownColor;
     }
     buffer_.buffer->BoundingBox = box;
     buffer_.mesh->BoundingBox = box;

@@ -13,10 +13,11 @@ class TerrainMeshPair {
 public:
     /// No meshes yet: getActive is null.
     TerrainMeshPair() = default;
-    /// Vertices are white; texture coordinates run over a square grid, or are 0 for other meshes.
+    /// Vertices are white, black where nobody knows the height; texture coordinates run over a square grid, or are 0
+    /// for other meshes.
     TerrainMeshPair(const std::vector<uint16_t>& indices, size_t vertexCount, int gridSide);
 
-    /// Copies positions and normals into the mesh that isn't drawn.
+    /// Copies positions, normals and colours into the mesh that isn't drawn.
     void fill(const TerrainMesh& mesh, const irr::core::aabbox3df& box);
     /// The filled one is drawn from now on. Whoever draws the other has let go of it.
     void swap();

@@ -24,6 +24,11 @@ double drawInwards(double r, double k) {
 
 } // namespace
 
+double NearMesh::undrawInwards(double drawn) {
+    const double k = std::exp(-1.0 / (2.0 * sigma));
+    return drawn < 0.9999 ? (std::exp(-drawn / (2.0 * sigma)) - 1.0) / (k - 1.0) : drawn;
+}
+
 NearMesh::NearMesh(int sampleAmount) : sampleAmount_(std::clamp(sampleAmount, 2, 256)) {}
 
 void NearMesh::placeVertices() {
@@ -52,8 +57,10 @@ void NearMesh::build(TerrainSampler& terrain, const ChartPosition& centre, Terra
     for (const Place& place : places_) {
         const ChartPosition position =
             Vector3df642ChartPosition(centre, irr::core::vector3d<double>(place.x, 0.0, place.z));
-        const float height = figures.add(terrain.getHeight(position, place.density, true, false));
-        vertex++->position.set(static_cast<float>(place.x), height, static_cast<float>(place.z));
+        const TerrainSampler::Height height = terrain.sample(position, place.density);
+        vertex->position.set(static_cast<float>(place.x), figures.add(height.metres, height.isKnown),
+                             static_cast<float>(place.z));
+        vertex++->isKnown = height.isKnown;
     }
     figures.store(mesh);
     calcGridNormals(mesh.vertices, sampleAmount_, GridColumns::Open);

@@ -21,6 +21,8 @@ public:
     void build(TerrainSampler& terrain, const ChartPosition& centre, TerrainMesh& mesh);
 
     int getSampleAmount() const { return sampleAmount_; }
+    /// Where in the even grid the place was that the mesh has at this distance from its middle; both in radii.
+    static double undrawInwards(double drawn);
     /// Triangles, clockwise seen from above, those nearest to the middle first.
     std::vector<uint16_t> makeIndices() const;
 

@@ -46,9 +46,10 @@ Vector calcNormal(const TerrainVertex& vertex, const Neighbours& around) {
 
 } // namespace
 
-float HeightFigures::add(float height) {
+float HeightFigures::add(float height, bool isKnown) {
     const bool defined = std::isfinite(height);
     defined_ |= defined;
+    complete_ &= isKnown;
     if (!defined)
         height = 0.0f;
     minimum_ = std::min(minimum_, height);
@@ -60,6 +61,7 @@ float HeightFigures::add(float height) {
 
 void HeightFigures::store(TerrainMesh& mesh) const {
     mesh.undefined = !defined_;
+    mesh.incomplete = !defined_ || !complete_;
     mesh.minimum = count_ ? minimum_ : 0.0f;
     mesh.mean = count_ ? static_cast<float>(sum_ / count_) : 0.0f;
     mesh.maximum = std::max({count_ ? maximum_ : 0.0f, mesh.minimum + 1.0f, 1.0f});

@@ -12,6 +12,7 @@ namespace skyvane {
 struct TerrainVertex {
     irr::core::vector3d<float> position;
     irr::core::vector3d<float> normal;
+    bool isKnown = true; ///< Where nobody knows the height it is 0, which looks like the sea.
 };
 
 /// A mesh of the ground as plain arrays; its triangles are those of its kind, always the same.
@@ -25,13 +26,15 @@ struct TerrainMesh {
     float mean = 0.0f;
     /// No vertex has any terrain: nothing to be shown.
     bool undefined = true;
+    /// Some vertex has no height that anybody knows.
+    bool incomplete = true;
 };
 
 /// Gathers what a mesh says of its heights while they come.
 class HeightFigures {
 public:
     /// Infinity, for no terrain, counts as 0; the result is the height to use.
-    float add(float height);
+    float add(float height, bool isKnown);
     /// A mesh without any height is undefined.
     void store(TerrainMesh& mesh) const;
 
@@ -41,6 +44,7 @@ private:
     double sum_ = 0.0;
     unsigned count_ = 0;
     bool defined_ = false;
+    bool complete_ = true;
 };
 
 /// Vertices by rows of columns. Seen from above, columns go clockwise of the direction in which rows go (east of north,

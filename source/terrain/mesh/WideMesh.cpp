@@ -50,8 +50,10 @@ void WideMesh::build(TerrainSampler& terrain, const ChartPosition& centre, Terra
         for (int j = 0; j < VerticesPerRing; ++j, ++place) {
             const ChartPosition position =
                 Vector3df642ChartPosition(centre, irr::core::vector3d<double>(place->x, 0.0, place->z));
-            const float height = figures.add(terrain.getHeight(position, density, true, false));
-            vertex++->position.set(static_cast<float>(place->x), height, static_cast<float>(place->z));
+            const TerrainSampler::Height height = terrain.sample(position, density);
+            vertex->position.set(static_cast<float>(place->x), figures.add(height.metres, height.isKnown),
+                                 static_cast<float>(place->z));
+            vertex++->isKnown = height.isKnown;
         }
     }
     figures.store(mesh);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "terrain/files/TerrainTile.h"
 #include "terrain/tree/TerrainStore.h"
 
 namespace skyvane {
@@ -12,6 +13,15 @@ class TerrainSampler {
 public:
     explicit TerrainSampler(TerrainStore& store) : store_(store) {}
 
+    /// A height for a mesh: between the samples, infinite where no tile is.
+    struct Height {
+        float metres;
+        bool isKnown; ///< False also where a tile has a hole, which counts as 0.
+    };
+    Height sample(const ChartPosition& position, double density) {
+        const int16_t raw = getRaw(position, density, true);
+        return {toHeight(raw, false), raw != NoHeight && raw != MMTerrainNode::MissingTile};
+    }
     float getHeight(const ChartPosition& position, double density, bool interpolate, bool zeroIfMissing) {
         return toHeight(getRaw(position, density, interpolate), zeroIfMissing);
     }

@@ -46,6 +46,7 @@ TEST_F(TerrainMeshes, coverTheGroundAroundTheAircraft) {
     near.build(sampler_, centre, mesh_);
     ASSERT_EQ(mesh_.vertices.size(), 32761u);
     EXPECT_FALSE(mesh_.undefined);
+    EXPECT_FALSE(mesh_.incomplete);
     const TerrainVertex& middle = mesh_.vertices[90 * 181 + 90];
     EXPECT_EQ(middle.position, Vector(0, 1600, 0));
     EXPECT_NEAR(mesh_.vertices[91].position.Z, -10000, 0.01);
@@ -88,6 +89,8 @@ TEST_F(TerrainMeshes, sayWhenThereIsNothing) {
     NearMesh near(16);
     near.build(sampler_, {1.4, 42.3}, mesh_);
     EXPECT_TRUE(mesh_.undefined);
+    EXPECT_TRUE(mesh_.incomplete);
+    EXPECT_FALSE(mesh_.vertices[17].isKnown);
     EXPECT_EQ(mesh_.vertices[17].position.Y, 0.0f);
     EXPECT_EQ(mesh_.maximum, 1.0f);
     save(store_.getRoot(), flatTile(-400));
@@ -102,6 +105,20 @@ TEST_F(TerrainMeshes, sayWhenThereIsNothing) {
     }
     near.build(sampler_, {NAN, NAN}, mesh_);
     EXPECT_TRUE(mesh_.undefined);
+}
+
+TEST_F(TerrainMeshes, sayWhereAHoleLooksLikeTheSea) {
+    std::vector<int16_t> holed = flatTile(300);
+    std::fill(holed.begin() + 601 * TileSide, holed.end(), NoHeight); // from 0.17 degrees south on
+    save(store_.getRoot(), holed);
+    TerrainSampler sampler(store_);
+    NearMesh(64).build(sampler, {200.0, -0.16}, mesh_);
+    EXPECT_FALSE(mesh_.undefined);
+    EXPECT_TRUE(mesh_.incomplete);
+    EXPECT_FALSE(mesh_.vertices.front().isKnown) << "south";
+    EXPECT_EQ(mesh_.vertices.front().position.Y, 0.0f);
+    EXPECT_TRUE(mesh_.vertices.back().isKnown);
+    EXPECT_EQ(mesh_.vertices.back().position.Y, 300.0f);
 }
 
 TEST_F(TerrainMeshes, moveAheadOfTheAircraft) {
