@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/engine/EngineRef.h"
+
 #include <irrlicht.h>
 #include <map>
 #include <string>
@@ -7,9 +9,10 @@
 namespace skyvane {
 
 class Context;
+class OGLES2TerrainCB;
 
 /// The program's own material types, by name. The 2-D ones are here: "Solid", "VertexAlpha", "TextureAlpha", "Alpha",
-/// "AlphaRef", "VertexAndTextureColor"; those of terrain and aircraft join with their displays. Main thread only.
+/// "AlphaRef", "VertexAndTextureColor"; those of scenes are "Terrain" and "Aircraft". Main thread only.
 ///
 /// | Name                  | Colour                            | Alpha                                     |
 /// |-----------------------|-----------------------------------|-------------------------------------------|
@@ -19,6 +22,8 @@ class Context;
 /// | TextureAlpha          | texture times the diffuse colour  | the texture's                             |
 /// | Alpha                 | texture times the vertex's        | the product of both                       |
 /// | AlphaRef              | texture times the vertex's        | opaque where the product is at least half |
+/// | Terrain               | by the height, see the callback   | opaque                                    |
+/// | Aircraft              | texture, vertex, diffuse and light| opaque                                    |
 ///
 /// A material of a blended type needs BlendOperation EBO_ADD: without, the engine loses blending after a 2-D draw of
 /// its own. Blended colours leave the right alpha in a render target.
@@ -30,10 +35,19 @@ public:
 
     /// EMT_SOLID for an unknown name or where the driver refused the shader, with a line in the log.
     irr::video::E_MATERIAL_TYPE getMaterialType(const std::string& name) const;
+    /// What "Terrain" is drawn with. Never null.
+    OGLES2TerrainCB* getTerrainCallback() const { return terrain_.get(); }
 
 private:
+    struct Shader {
+        const char* vertex;
+        const char* fragment;
+    };
     void add(irr::IrrlichtDevice* device, const char* name, const char* fragment, bool blended);
+    void add(irr::IrrlichtDevice* device, const char* name, const Shader& shader,
+             irr::video::IShaderConstantSetCallBack* callback, bool blended);
 
+    EngineRef<OGLES2TerrainCB> terrain_;
     std::map<std::string, irr::video::E_MATERIAL_TYPE> types_;
 };
 
