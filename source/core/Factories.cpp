@@ -13,6 +13,7 @@
 #include "displays/instruments/TurnRateIndicatorFactory.h"
 #include "displays/instruments/VerticalSpeedIndicatorFactory.h"
 #include "displays/instruments/WarningLampFactory.h"
+#include "displays/vision/Map3DFactory.h"
 #include "gui/sensors/GDL90CalibrationWindow.h"
 #include "gui/sensors/SensorDialogs.h"
 #include "gui/sensors/WifiControl.h"
@@ -86,7 +87,7 @@ void registerPanelFactories(Context& context, PanelManager& panels) {
     panels.addPanelFactory(std::make_unique<AttitudeIndicatorFactory>(&context));
     panels.addPanelFactory(std::make_unique<TurnRateIndicatorFactory>(&context));
     panels.addPanelFactory(nullptr); // Map2DFactory
-    panels.addPanelFactory(nullptr); // Map3DFactory
+    panels.addPanelFactory(std::make_unique<Map3DFactory>(&context));
     panels.addPanelFactory(std::make_unique<AltimeterFactory>(&context));
     panels.addPanelFactory(std::make_unique<CompassFactory>(&context));
     panels.addPanelFactory(std::make_unique<OneSegmentPanelFactory>(&context));

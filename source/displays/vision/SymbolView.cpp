@@ -1,0 +1,71 @@
+#include "displays/vision/SymbolView.h"
+
+#include "core/Context.h"
+#include "displays/drawing/Drawer2D.h"
+#include "gui/font/FlexibleFont.h"
+
+#include <cstdlib>
+#include <cwchar>
+
+namespace skyvane {
+namespace {
+
+/// Of the panel's height, the least that is shown of sky and of ground.
+constexpr double sliverShare = 0.09;
+
+} // namespace
+
+SymbolView::SymbolView(Context* context) : context_(context), drawer_(context->getDrawer()) {}
+
+void SymbolView::draw(const Scene& scene) {
+    const Lens lens(scene.rect.getWidth(), scene.rect.getHeight());
+    const uint32_t color = scene.isDoubtful ? GlassSymbols::doubtfulColor : GlassSymbols::ladderColor;
+    GlassSymbols symbols(lens, scene.free);
+    const PitchLadder ladder(scene.pose, lens, symbols.getLadderReach());
+    HorizonLine horizon = calcHorizon(scene.pose, lens);
+    const HorizonLine seen = horizon;
+    shapes_.clear();
+    if (keepInView(horizon, lens, sliverShare * lens.height))
+        symbols.addSliver(shapes_, horizon);
+    symbols.addHorizon(shapes_, horizon, color);
+    symbols.addLadder(shapes_, ladder, color);
+    if (scene.hasBankScale)
+        symbols.addBankScale(shapes_, scene.bankDegrees, scene.sideways ? &*scene.sideways : nullptr, color);
+    const auto path = scene.velocity ? lens.project(scene.pose, *scene.velocity) : std::nullopt;
+    if (path)
+        symbols.addFlightPath(shapes_, *path);
+    symbols.addAircraft(shapes_);
+    symbols.addChevrons(shapes_, seen, scene.pitchDegrees, scene.bankDegrees);
+    drawer_->setViewPort(scene.rect);
+    drawer_->draw(shapes_);
+    drawer_->resetViewPort();
+    drawNumbers(scene, symbols, ladder, irr::video::SColor(color));
+}
+
+void SymbolView::drawNumbers(const Scene& scene, const GlassSymbols& symbols, const PitchLadder& ladder,
+                             irr::video::SColor color) {
+    FlexibleFont* font = context_->getFlexibleFont();
+    if (!font)
+        return;
+    const float borderBefore = font->getDefaultBorderSize();
+    for (const PitchRung& rung : ladder) {
+        const int pitch = std::abs(rung.pitchDegrees);
+        if (!rung.isLong || pitch == 0)
+            continue;
+        CachedText& number = numbers_[static_cast<size_t>(pitch / 10)];
+        wchar_t digits[4];
+        std::swprintf(digits, 4, L"%d", pitch);
+        number.set(font, digits, color);
+        const auto height = static_cast<float>(number.getDimension().Height);
+        const float scale = height > 0.0f ? static_cast<float>(symbols.getNumberHeight()) * 1.6f / height : 1.0f;
+        const double rotation = -std::atan2(rung.along.Y, rung.along.X) * 57.29577951308232;
+        for (const int side : {-1, 1}) {
+            const Lens::Point place = symbols.getNumberPlace(rung, side);
+            number.drawRotated(scene.rect, {static_cast<float>(place.X), static_cast<float>(place.Y)}, {scale, scale},
+                               static_cast<float>(rotation));
+        }
+    }
+    font->setDefaultBorderSize(borderBefore);
+}
+
+} // namespace skyvane

@@ -1,0 +1,122 @@
+#include "displays/vision/TerrainView.h"
+
+#include "chart/geodesy/LocalFrame.h"
+#include "core/Context.h"
+#include "core/time/Time.h"
+#include "displays/PanelManager.h"
+#include "displays/materials/MaterialManager.h"
+#include "displays/materials/OGLES2TerrainCB.h"
+#include "displays/vision/SceneStage.h"
+#include "terrain/TerrainManager.h"
+#include "terrain/mesh/NearMesh.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace skyvane {
+namespace {
+
+/// Of the near mesh; the quads of the wide one that reach over it end within the rest.
+constexpr float coveredHalfSide = 9400.0f;
+constexpr float coveredDepth = 3000.0f;
+constexpr double lightRadiansPerSecond = 0.1570796327;
+
+} // namespace
+
+TerrainView::TerrainView(Context* context)
+    : context_(context), callback_(context->getMaterialManager()->getTerrainCallback()),
+      gradient_(loadPanelImage(context, "media/terrainGradient.png")),
+      material_(makeSceneMaterial(context->getIrrlichtDevice()->getVideoDriver(),
+                                  context->getMaterialManager()->getMaterialType("Terrain"), gradient_.get())) {
+    takeNearMesh();
+    takeWideMesh();
+}
+
+TerrainManager* TerrainView::getManager() const {
+    return context_->getPanelManager()->getTerrainManager();
+}
+
+void TerrainView::takeNearMesh() {
+    const TerrainManager* terrain = getManager();
+    near_ = EngineRef<irr::scene::IMesh>::share(terrain ? terrain->getActiveMesh() : nullptr);
+    ++generation_;
+}
+
+void TerrainView::takeWideMesh() {
+    const TerrainManager* terrain = getManager();
+    wide_ = EngineRef<irr::scene::IMesh>::share(terrain ? terrain->getActiveWideMesh() : nullptr);
+}
+
+/// After a jump of the position the mesh is that of another place until the next one comes.
+bool TerrainView::isNearShown(const TerrainManager& terrain, const ChartPosition& aircraft) const {
+    if (!near_ || terrain.isWholeMeshUndefined())
+        return false;
+    const auto away = ChartPosition2Vector3df64(terrain.getActiveMeshPosition(), aircraft, 0.0);
+    return std::max(std::abs(away.X), std::abs(away.Z)) < NearMesh::RadiusMetres;
+}
+
+bool TerrainView::isIncomplete(const ChartPosition& aircraft) const {
+    const TerrainManager* terrain = getManager();
+    return !terrain || !isNearShown(*terrain, aircraft) || terrain->isMeshIncomplete();
+}
+
+bool TerrainView::getDrawnHeight(const ChartPosition& position, float& metres) const {
+    const TerrainManager* terrain = getManager();
+    if (!terrain || !near_ || terrain->isWholeMeshUndefined())
+        return false;
+    const auto place = ChartPosition2Vector3df64(terrain->getActiveMeshPosition(), position, 0.0);
+    const irr::scene::IMeshBuffer* buffer = near_->getMeshBuffer(0);
+    return NearMeshHeights(terrain->getMeshSampleAmount())
+        .sample(
+            place.X, place.Z,
+            [buffer](int vertex) -> const irr::core::vector3df& {
+                return buffer->getPosition(static_cast<irr::u32>(vertex));
+            },
+            metres);
+}
+
+void TerrainView::setHeightLimits(const TerrainManager& terrain, double heightMetres, bool nearShown, bool wideShown) {
+    float lowest = nearShown ? terrain.getMinTerrainElevationInVicinity() : terrain.getMinWideTerrainElevation();
+    float highest = nearShown ? terrain.getMaxTerrainElevationInVicinity() : terrain.getMaxWideTerrainElevation();
+    if (wideShown) {
+        lowest = std::min(lowest, terrain.getMinWideTerrainElevation());
+        highest = std::max(highest, terrain.getMaxWideTerrainElevation());
+    }
+    callback_->setHeightLimits(lowest, terrain.getAverageTerrainElevationInVicinity(), highest,
+                               static_cast<float>(heightMetres));
+    const double lap = lightRadiansPerSecond * Secs();
+    callback_->setLightDirection({static_cast<float>(std::cos(lap)), -1.0f, static_cast<float>(std::sin(lap))});
+}
+
+void TerrainView::renderNode(SceneStage& stage, irr::scene::IMesh* mesh, const ChartPosition& origin,
+                             const ChartPosition& centre) {
+    stage.setPlace(ChartPosition2Vector3df64(origin, centre, 0.0));
+    for (irr::u32 i = 0; i < mesh->getMeshBufferCount(); ++i)
+        stage.draw(mesh->getMeshBuffer(i), material_);
+}
+
+/// The near mesh first: it hides most of the wide one, which needn't be coloured there.
+void TerrainView::draw(SceneStage& stage, const ChartPosition& origin, double heightMetres) {
+    const TerrainManager* terrain = getManager();
+    if (!terrain)
+        return;
+    const bool nearShown = isNearShown(*terrain, origin);
+    const bool wideShown = wide_ && !terrain->isWholeWideMeshUndefined();
+    if (!nearShown && !wideShown)
+        return;
+    setHeightLimits(*terrain, heightMetres, nearShown, wideShown);
+    if (nearShown) {
+        callback_->setCovered(0.0f, 0.0f, 0.0f, 0.0f);
+        renderNode(stage, near_.get(), origin, terrain->getActiveMeshPosition());
+    }
+    if (!wideShown)
+        return;
+    if (nearShown) {
+        const auto middle =
+            ChartPosition2Vector3df(terrain->getActiveWideMeshPosition(), terrain->getActiveMeshPosition(), 0.0);
+        callback_->setCovered(middle.X, middle.Z, coveredHalfSide, coveredDepth);
+    }
+    renderNode(stage, wide_.get(), origin, terrain->getActiveWideMeshPosition());
+}
+
+} // namespace skyvane

@@ -1,0 +1,147 @@
+#include "displays/vision/VisionReader.h"
+
+#include "core/Context.h"
+#include "core/text/Utf8.h"
+#include "displays/PanelManager.h"
+#include "displays/gauges/AttitudeGauge.h"
+#include "displays/gauges/SensorReading.h"
+#include "displays/gauges/TurnGauge.h"
+#include "displays/visionmath/PfdReadings.h"
+#include "displays/visionmath/ViewPose.h"
+#include "procedures/aircraft/profiles/Aircraft.h"
+#include "procedures/framework/IProcedure.h"
+#include "sensors/SensorManager.h"
+#include "sensors/records/Acceleration_Data.h"
+#include "sensors/records/AirSpeed_Data.h"
+#include "sensors/records/Altitude_Data.h"
+#include "sensors/records/AngleOfAttack_Data.h"
+#include "sensors/records/Attitude_Data.h"
+#include "sensors/records/ExtendedHeading_Data.h"
+#include "sensors/records/GroundSpeed_Data.h"
+#include "sensors/records/Heading_Data.h"
+#include "sensors/records/Position_Data.h"
+#include "sensors/records/VerticalSpeed_Data.h"
+#include "terrain/TerrainManager.h"
+
+#include <cmath>
+#include <limits>
+
+namespace skyvane {
+namespace {
+
+/// The value of a record with one number, and its flag.
+template <class Record>
+PfdReadings::Trusted<double> readValueOf(SensorManager& sensors, ISensorData::Type type) {
+    DialEvidence evidence;
+    PfdReadings::Trusted<double> result;
+    if (const auto* record = readDefault<Record>(sensors, type, evidence)) {
+        evidence.finite = std::isfinite(record->value);
+        result.value = evidence.finite ? record->value : 0.0;
+    }
+    result.flag = decideDialFlag(evidence);
+    return result;
+}
+
+void readAttitude(SensorManager& sensors, VisionReadings& readings) {
+    DialEvidence evidence;
+    ViewPose pose;
+    const auto* record = readDefault<Attitude_Data>(sensors, ISensorData::Attitude, evidence);
+    evidence.finite = record && lookAlong(record->matrix, pose);
+    if (evidence.finite) {
+        readings.attitude = Matrix3x3(pose.up, pose.forward);
+        readings.hasAttitude = true;
+    }
+    readings.trust.attitude = decideDialFlag(evidence);
+}
+
+void readPosition(SensorManager& sensors, VisionReadings& readings) {
+    DialEvidence evidence;
+    const auto* record = readDefault<Position_Data>(sensors, ISensorData::Position, evidence);
+    evidence.finite = record && std::isfinite(record->longitude) && std::isfinite(record->latitude) &&
+                      std::abs(record->latitude) <= 90.0;
+    if (evidence.finite)
+        readings.position = {record->longitude, record->latitude};
+    readings.trust.position = decideDialFlag(evidence);
+}
+
+void readMotion(SensorManager& sensors, PfdReadings& bars) {
+    bars.airSpeedKnots = readValueOf<AirSpeed_Data>(sensors, ISensorData::AirSpeed);
+    bars.groundSpeedKnots = readValueOf<GroundSpeed_Data>(sensors, ISensorData::GroundSpeed);
+    bars.verticalSpeedMetres = readValueOf<VerticalSpeed_Data>(sensors, ISensorData::VerticalSpeed);
+    const double filtered = sensors.getFilteredVerticalSpeed();
+    if (std::isfinite(filtered))
+        bars.verticalSpeedMetres.value = filtered;
+    DialEvidence evidence;
+    bars.sideways.value = 0.0;
+    if (const auto* record = readDefault<Acceleration_Data>(sensors, ISensorData::Acceleration, evidence)) {
+        bars.sideways.value = calcSideways({record->x, record->y, record->z});
+        evidence.finite = std::isfinite(bars.sideways.value);
+    }
+    bars.sideways.flag = decideDialFlag(evidence);
+}
+
+void readAngleOfAttack(SensorManager& sensors, PfdReadings& bars) {
+    DialEvidence evidence;
+    if (const auto* record = readDefault<AngleOfAttack_Data>(sensors, ISensorData::AngleOfAttack, evidence)) {
+        bars.angleOfAttack.value = {static_cast<double>(record->angle), static_cast<double>(record->maximum),
+                                    record->inParts != 0};
+        evidence.finite = std::isfinite(record->angle) && std::isfinite(record->maximum);
+    }
+    bars.angleOfAttack.flag = decideDialFlag(evidence);
+}
+
+void readAltimeter(SensorManager& sensors, const VisionReadings& vision, PfdReadings& bars) {
+    bars.altitudeMetres.value = sensors.getIndicatedAltitude();
+    bars.altitudeMetres.flag = std::isfinite(bars.altitudeMetres.value) ? vision.trust.altitude : DialFlag::Failed;
+    bars.groundMetres = vision.groundMetres;
+    bars.seaLevelMillibars = sensors.getSeaLevelPressure();
+    bars.isSatelliteAltitude = sensors.getForceGNSSAltitude();
+}
+
+void readHeadings(SensorManager& sensors, const VisionReadings& vision, PfdReadings& bars) {
+    bars.headingDegrees = {vision.headingDegrees, vision.trust.heading};
+    bars.magneticDegrees.reset();
+    DialEvidence evidence;
+    const auto* record = readDefault<ExtendedHeading_Data>(sensors, ISensorData::ExtendedHeading, evidence);
+    evidence.finite = record && std::isfinite(record->magneticHeading);
+    if (isValueShown(decideDialFlag(evidence)))
+        bars.magneticDegrees = static_cast<double>(record->magneticHeading);
+}
+
+} // namespace
+
+VisionReadings readVision(Context& context) {
+    SensorManager& sensors = *context.getSensorManager();
+    VisionReadings readings;
+    readAttitude(sensors, readings);
+    readPosition(sensors, readings);
+    const auto altitude = readValueOf<Altitude_Data>(sensors, ISensorData::Altitude);
+    readings.altitudeMetres = altitude.value;
+    readings.trust.altitude = altitude.flag;
+    const auto heading = readValueOf<Heading_Data>(sensors, ISensorData::Heading);
+    readings.headingDegrees = heading.value;
+    readings.trust.heading = heading.flag;
+    const TerrainManager* terrain = context.getPanelManager()->getTerrainManager();
+    readings.groundMetres =
+        terrain ? static_cast<double>(terrain->getCurrentElevation()) : std::numeric_limits<double>::infinity();
+    return readings;
+}
+
+void readBars(Context& context, const VisionReadings& vision, PfdReadings& bars) {
+    SensorManager& sensors = *context.getSensorManager();
+    bars.metric = context.getPanelManager()->isMetric();
+    bars.speeds = SpeedScale::of(context.getCurrentAircraft());
+    readMotion(sensors, bars);
+    readAltimeter(sensors, vision, bars);
+    readHeadings(sensors, vision, bars);
+    readAngleOfAttack(sensors, bars);
+    bars.bankDegrees = {vision.hasAttitude ? calcAttitudePose(vision.attitude).rollDegrees : 0.0,
+                        vision.trust.attitude};
+    const IProcedure* procedure = context.getCurrentProcedure();
+    const bool flown = procedure && procedure->getBearing() >= 0.0;
+    bars.bearingDegrees = flown ? std::optional<double>(procedure->getBearing()) : std::nullopt;
+    bars.nextFix.nauticalMiles = procedure ? procedure->getLength() : -1.0;
+    bars.nextFix.seconds = procedure ? procedure->getETE() : -1;
+}
+
+} // namespace skyvane
