@@ -26,7 +26,7 @@ bool heightInTriangle(const irr::core::vector3d<float>* corner, double x, double
 
 TEST(NearMeshHeights, LiesOnTheTrianglesAsTheyAreDrawn) {
     constexpr int side = 61;
-    const NearMesh near(side);
+    NearMesh near(side);
     TerrainMesh mesh;
     const std::string noTiles = "/nonexistent/";
     TerrainStore store(noTiles, 1);
