@@ -7,6 +7,7 @@
 Every process started here is ended by its id when the block ends.
 """
 import os
+import random
 import shutil
 import signal
 import subprocess
@@ -31,6 +32,23 @@ def end(process, seconds=5):
         except subprocess.TimeoutExpired:
             process.kill()
             process.wait()
+
+
+def start_display():
+    """A virtual display: (server, name). A number picked by the server itself (-displayfd) takes no lock, and servers of
+    other network namespaces would share it."""
+    for _ in range(20):
+        number = random.randint(100, 32000)
+        socket = '/tmp/.X11-unix/X%d' % number
+        if os.path.exists(socket):
+            continue
+        server = subprocess.Popen(['Xvfb', ':%d' % number, '-screen', '0', '1920x1920x24', '-noreset', '-nolisten', 'tcp'],
+                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        while server.poll() is None:
+            if os.path.exists(socket):
+                return server, ':%d' % number
+            time.sleep(0.02)
+    raise AssertionError('no virtual display could be started (Xvfb)')
 
 
 class Cockpit:
@@ -64,13 +82,7 @@ class Cockpit:
         subprocess.run([os.path.join(ROOT, 'tools/demo/prepare-home.sh'), self.build, self.home, path], check=True)
 
     def __enter__(self):
-        read, write = os.pipe()
-        self.server = subprocess.Popen(
-            ['Xvfb', '-displayfd', str(write), '-screen', '0', '1920x1920x24', '-noreset', '-nolisten', 'tcp'],
-            pass_fds=(write,), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        os.close(write)
-        with os.fdopen(read) as pipe:
-            name = ':' + pipe.readline().strip()
+        self.server, name = start_display()
         self.environment['DISPLAY'] = name
         self.display = display.Display(name)
         self.start()

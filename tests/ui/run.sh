@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# run.sh BUILD [--smoke]: the window tests of a build; --smoke runs only what a slow (sanitized) build can do.
+# run.sh BUILD [--smoke] [--jobs=N] [WORD...]: the window tests of a build. --smoke runs only what a slow (sanitized)
+# build can do, --jobs=N several tests at a time, WORD only those that hold it.
 set -euo pipefail
 build=$1
 shift

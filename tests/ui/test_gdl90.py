@@ -3,6 +3,7 @@ import time
 
 from cockpit import Cockpit
 from dials import Dial, red
+from glass import Glass
 from run_tests import smoke
 from test_dials import DEMO, DIALS, SIZE, STATES, apart, check_state, hold
 
@@ -56,8 +57,7 @@ def test_the_horizon_of_the_calibration_window_moves_at_once(build):
             cockpit.save(pixels, 'gdl90-calibration')
             seen = dial.horizon(pixels)
             return seen and apart(seen[0], degrees) < 1.5
-        click(cockpit, 0.07, 0.968)  # Menu
-        click(cockpit, 0.14, 0.564)  # Calib.
+        Glass(cockpit).open('Calib.')
         cockpit.wait(lambda: banked(HORIZON, STATE['roll']), 10, 'the horizon')
         for _ in range(5):
             click(cockpit, 0.53, 0.195)  # roll +

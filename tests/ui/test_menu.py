@@ -6,7 +6,7 @@ import numpy
 
 from cockpit import Cockpit
 from dials import red
-from glass import GREEN, RED, Glass
+from glass import GREEN, RED, ROWS, Glass
 from test_dials import DEMO, DIALS, SIZE, STATES, dismiss_box, hold
 from test_links import SIMULATOR, log_of
 from test_start import read_ini
@@ -63,7 +63,7 @@ def set_up_the_program(flight):
     assert settings['inputColor.G'] == '255' and settings['units'] == 'ft|nm|knots' and settings['fontOffset'] == '0'
     time.sleep(1)
     flight.menu()
-    x, y = map(int, flight.row_place(0))
+    x, y = map(int, flight.row_place(ROWS.index('Change Sensors')))
 
     def is_yellow():
         r, g, b = flight.cockpit.look()[y + flight.button // 2, x].astype(int)
@@ -255,7 +255,7 @@ def test_a_log_is_paused_and_played_from_the_menu(build):
                 time.sleep(0.4)
             return not numpy.array_equal(*bars)
         flight.click(*flight.playback_place('Loop'))
-        flight.write(flight.playback_place('speed'), '20', flight.row_place(0))
+        flight.write(flight.playback_place('speed'), '20', flight.row_place(ROWS.index('Change Sensors')))
         cockpit.wait(moves, 10, 'twenty times the speed')
         cockpit.save(cockpit.look(), 'menu-playback')
         # "Play" is "Pause" while it plays.

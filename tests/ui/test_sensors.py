@@ -2,6 +2,7 @@
 import time
 
 from cockpit import Cockpit
+from glass import Glass
 from test_start import read_ini
 
 SIZE = (1280, 720)
@@ -22,8 +23,7 @@ def open_setup(cockpit):
     time.sleep(0.5)
     for _ in range(2):  # each simulator says that it isn't real
         click(cockpit, 0.5, 0.555)
-    click(cockpit, 0.07, 0.968)  # Menu
-    click(cockpit, 0.14, 0.08)  # Change Sensors
+    Glass(cockpit).open('Change Sensors')
 
 
 def config(cockpit):
@@ -37,8 +37,7 @@ def test_the_sensor_setup_changes_the_document_on_ok_only(build):
         click(cockpit, 0.17, 0.785)  # Use, the one in use
         click(cockpit, 0.11, 0.93)  # Cancel
         assert config(cockpit)['']['SensorCount'] == '3'
-        click(cockpit, 0.07, 0.968)
-        click(cockpit, 0.14, 0.08)
+        Glass(cockpit).open('Change Sensors')
         click(cockpit, 0.17, 0.785)
         click(cockpit, 0.89, 0.93)  # Ok
         cockpit.wait(lambda: config(cockpit)['']['SensorCount'] == '2', 10, 'one sensor in the document')

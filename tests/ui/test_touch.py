@@ -2,6 +2,7 @@
 import time
 
 from cockpit import Cockpit
+from glass import Glass
 from test_start import read_ini
 
 CONFIG = 'major = 2\nminor = 9\noptimized = 0\nPanelCount = 0\nSensorCount = 0\n' + ''.join(
@@ -60,8 +61,8 @@ class Fingers:
     def open_aircraft(self):
         self.cockpit.wait_for_window()
         time.sleep(0.5)
-        self.tap(0.07, 0.968)  # Menu
-        self.tap(0.14, 0.242)  # Aircraft Setup
+        Glass(self.cockpit).open('Aircraft Setup')
+        time.sleep(0.5)
 
 
 def aircraft(cockpit):
