@@ -13,6 +13,7 @@
 #include "displays/instruments/TurnRateIndicatorFactory.h"
 #include "displays/instruments/VerticalSpeedIndicatorFactory.h"
 #include "displays/instruments/WarningLampFactory.h"
+#include "displays/map/Map2DFactory.h"
 #include "displays/vision/Map3DFactory.h"
 #include "gui/sensors/GDL90CalibrationWindow.h"
 #include "gui/sensors/SensorDialogs.h"
@@ -86,7 +87,7 @@ void registerSensorProfiles(Context& context, SensorManager& sensors) {
 void registerPanelFactories(Context& context, PanelManager& panels) {
     panels.addPanelFactory(std::make_unique<AttitudeIndicatorFactory>(&context));
     panels.addPanelFactory(std::make_unique<TurnRateIndicatorFactory>(&context));
-    panels.addPanelFactory(nullptr); // Map2DFactory
+    panels.addPanelFactory(std::make_unique<Map2DFactory>(&context));
     panels.addPanelFactory(std::make_unique<Map3DFactory>(&context));
     panels.addPanelFactory(std::make_unique<AltimeterFactory>(&context));
     panels.addPanelFactory(std::make_unique<CompassFactory>(&context));

@@ -172,7 +172,7 @@ SIGNS = {
     "procArrowUp": lambda: chevron_path(True), "procArrowDown": lambda: chevron_path(False),
     "menu": lambda: sign("M-30-22H30M-30 0H30M-30 22H30", 9),
     "bin": bin_sign, "rename": rename_sign,
-    "cross": lambda: sign("M-24-24L24 24M24-24L-24 24", 10),
+    "closeSign": lambda: sign("M-24-24L24 24M24-24L-24 24", 10),
     "shift": lambda: shift_sign("none"), "shift_on": lambda: shift_sign(DARK),
     "arrow_left": lambda: inked("M34 0H-34M-12-22L-34 0L-12 22"),
     "arrow_right": lambda: inked("M-34 0H34M12-22L34 0L12 22"),

@@ -6,8 +6,10 @@
 #include "displays/mapmath/MapBox.h"
 #include "displays/mapmath/MapSettings.h"
 #include "displays/mapmath/MapView.h"
+#include "gui/font/CachedText.h"
 
 #include <irrlicht.h>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -18,6 +20,9 @@ class Drawer2D;
 class IChart;
 class IChartElement;
 class MapParts;
+struct MapGesture;
+/// Who has drawn into which target last: maps of different pages share them.
+using TileWriters = std::map<const irr::video::ITexture*, const void*>;
 
 /// The moving map: a flat chart around the aircraft, or around a place that the pilot has marked.
 ///
@@ -36,8 +41,9 @@ public:
     using Point = irr::core::vector2d<int>;
     using PointF = irr::core::vector2d<float>;
 
-    /// `section` is that of the configuration document from which the settings came, for changes of the pilot's.
-    Map2D(Context* context, const MapSettings& settings, std::string section);
+    /// `section` is that of the configuration document from which the settings came, for changes of the pilot's;
+    /// `writers` outlive the map and are shared with all others.
+    Map2D(Context* context, const MapSettings& settings, std::string section, TileWriters& writers);
     ~Map2D() override;
     Map2D(const Map2D&) = delete;
     Map2D& operator=(const Map2D&) = delete;
@@ -138,7 +144,19 @@ public:
     void OnFISDataChanged(bool changed) override;
 
 private:
+    bool processMouse(const irr::SEvent::SMouseInput& mouse);
+    bool processTouch(const irr::SEvent& event);
+    bool processKey(const irr::SEvent::SKeyInput& key);
+    bool processButton(const irr::SEvent& event);
+    bool apply(const MapGesture& gesture);
+    void zoomBySteps(double steps);
+    void changeOptions();
+
     MapSettings settings_;
+    std::string section_;
+    OptimizedSettings preset_ = OPTIMIZED_DEFAULT;
+    MapView pressedView_; ///< As it was when a finger came down.
+    CachedText chartText_;
     std::unique_ptr<MapParts> parts_;
 };
 

@@ -6,19 +6,22 @@
 #include "displays/materials/OGLES2PlaneCB.h"
 #include "displays/materials/OGLES2SimpleCB.h"
 #include "displays/materials/OGLES2TerrainCB.h"
+#include "displays/materials/OGLTerrain2DCB.h"
 
 namespace skyvane {
 
 MaterialManager::MaterialManager(Context* context) : MaterialManager(context->getIrrlichtDevice()) {}
 
 MaterialManager::MaterialManager(irr::IrrlichtDevice* device)
-    : terrain_(EngineRef<OGLES2TerrainCB>::adopt(new OGLES2TerrainCB)) {
+    : terrain_(EngineRef<OGLES2TerrainCB>::adopt(new OGLES2TerrainCB)),
+      terrain2D_(EngineRef<OGLTerrain2DCB>::adopt(new OGLTerrain2DCB)) {
     add(device, "Solid", skyvane_shader_solid_frag, false);
     add(device, "VertexAndTextureColor", skyvane_shader_vertexAndTextureColor_frag, false);
     add(device, "AlphaRef", skyvane_shader_alphaRef_frag, false);
     add(device, "VertexAlpha", skyvane_shader_vertexAlpha_frag, true);
     add(device, "TextureAlpha", skyvane_shader_textureAlpha_frag, true);
     add(device, "Alpha", skyvane_shader_alpha_frag, true);
+    add(device, "Terrain2D", {skyvane_shader_terrain2D_vert, skyvane_shader_terrain2D_frag}, terrain2D_.get(), true);
     add(device, "Terrain", {skyvane_shader_terrain_vert, skyvane_shader_terrain_frag}, terrain_.get(), false);
     const auto plane = EngineRef<OGLES2PlaneCB>::adopt(new OGLES2PlaneCB);
     add(device, "Aircraft", {skyvane_shader_aircraft_vert, skyvane_shader_aircraft_frag}, plane.get(), false);

@@ -10,9 +10,11 @@ namespace skyvane {
 
 class Context;
 class OGLES2TerrainCB;
+class OGLTerrain2DCB;
 
 /// The program's own material types, by name. The 2-D ones are here: "Solid", "VertexAlpha", "TextureAlpha", "Alpha",
-/// "AlphaRef", "VertexAndTextureColor"; those of scenes are "Terrain" and "Aircraft". Main thread only.
+/// "AlphaRef", "VertexAndTextureColor"; those of scenes are "Terrain" and "Aircraft",
+/// and "Terrain2D" is the ground below the map. Main thread only.
 ///
 /// | Name                  | Colour                            | Alpha                                     |
 /// |-----------------------|-----------------------------------|-------------------------------------------|
@@ -37,6 +39,8 @@ public:
     irr::video::E_MATERIAL_TYPE getMaterialType(const std::string& name) const;
     /// What "Terrain" is drawn with. Never null.
     OGLES2TerrainCB* getTerrainCallback() const { return terrain_.get(); }
+    /// What "Terrain2D" is drawn with. Never null.
+    OGLTerrain2DCB* getTerrain2DCallback() const { return terrain2D_.get(); }
 
 private:
     struct Shader {
@@ -48,6 +52,7 @@ private:
              irr::video::IShaderConstantSetCallBack* callback, bool blended);
 
     EngineRef<OGLES2TerrainCB> terrain_;
+    EngineRef<OGLTerrain2DCB> terrain2D_;
     std::map<std::string, irr::video::E_MATERIAL_TYPE> types_;
 };
 

@@ -149,7 +149,7 @@ void Skin::replaceSprites(const std::string& mediaFolder) {
     const auto sprites = EngineRef<SkinSprites>::adopt(
         new SkinSprites(drawer_,
                         {loadImage(mediaFolder + "tick.png"), loadImage(mediaFolder + "procArrowUp.png"),
-                         loadImage(mediaFolder + "cross.png")},
+                         loadImage(mediaFolder + "closeSign.png")},
                         getSize(irr::gui::EGDS_WINDOW_BUTTON_WIDTH)));
     setSpriteBank(sprites.get());
     for (int icon = 0; icon < irr::gui::EGDI_COUNT; ++icon)

@@ -2,7 +2,7 @@ skyvane_embed(skyvane_upper skyvane_shader_simple_vert displays/materials/shader
 foreach(name solid vertexAlpha textureAlpha alpha alphaRef vertexAndTextureColor)
   skyvane_embed(skyvane_upper skyvane_shader_${name}_frag displays/materials/shaders/${name}.frag)
 endforeach()
-foreach(name terrain aircraft)
+foreach(name terrain terrain2D aircraft)
   skyvane_embed(skyvane_upper skyvane_shader_${name}_vert displays/materials/shaders/${name}.vert)
   skyvane_embed(skyvane_upper skyvane_shader_${name}_frag displays/materials/shaders/${name}.frag)
 endforeach()

@@ -1,0 +1,167 @@
+#include "displays/map/MapTerrain.h"
+
+#include "core/Context.h"
+#include "displays/PanelManager.h"
+#include "displays/drawing/Drawer2D.h"
+#include "displays/map/PlainQuad.h"
+#include "displays/materials/MaterialManager.h"
+#include "displays/materials/OGLTerrain2DCB.h"
+#include "terrain/TerrainManager.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cmath>
+
+namespace skyvane {
+namespace {
+
+/// A picture reaches beyond the view, so that flying on doesn't need a new one at once.
+constexpr double reserve = 0.3;
+/// Pixels of the screen that share one of the picture.
+constexpr double coarseness = 2.0;
+constexpr int smallestSide = 64, largestSide = 1024;
+/// A picture of another scale than the view's serves as long as the two differ no more.
+constexpr double tolerableScale = 1.6;
+constexpr float overlayAlpha = 0.0f, warningAlpha = 0.75f;
+
+std::string uniqueName() {
+    static std::atomic<unsigned> counter{0};
+    return "skyvane:terrain:" + std::to_string(counter++);
+}
+
+EngineRef<irr::scene::SMeshBuffer> makeQuad(irr::video::E_MATERIAL_TYPE type, irr::video::ITexture* gradient) {
+    EngineRef<irr::scene::SMeshBuffer> quad = makePlainQuad();
+    quad->Material.MaterialType = type;
+    // Heights are packed into two channels: the shader filters them.
+    quad->Material.TextureLayer[0].BilinearFilter = false;
+    quad->Material.setTexture(1, gradient);
+    return quad;
+}
+
+} // namespace
+
+MapTerrain::MapTerrain(Context* context, IPanel* panel, irr::video::ITexture* gradient)
+    : context_(context), drawer_(context->getDrawer()), panel_(panel),
+      quad_(makeQuad(context->getMaterialManager()->getMaterialType("Terrain2D"), gradient)) {}
+
+MapTerrain::~MapTerrain() {
+    if (TerrainManager* terrain = context_->getPanelManager()->getTerrainManager())
+        terrain->deleteTerrainImageRequestsFromCaller(panel_);
+    removeTexture();
+}
+
+MapBox MapTerrain::wantedBox(const MapView& view) const {
+    const MapView::Panel& panel = view.getPanel();
+    return view.getReach(reserve * 0.5 * (panel.width + panel.height));
+}
+
+bool MapTerrain::doesCoverScreen(const MapView& view) const {
+    return texture_ && box_.covers(view.getReach(0.0));
+}
+
+void MapTerrain::requestIfNeeded(const MapView& view) {
+    if (isAsked_ && askedBox_.covers(view.getReach(0.0)) && !isWanted_)
+        return;
+    const double scale = metresPerPixel_ > 0.0 ? view.getMetresPerPixel() / metresPerPixel_ : 0.0;
+    const bool fits = scale > 1.0 / tolerableScale && scale < tolerableScale;
+    if (isWanted_ || !doesCoverScreen(view) || !fits)
+        request(view);
+}
+
+void MapTerrain::request(const MapView& view) {
+    TerrainManager* terrain = context_->getPanelManager()->getTerrainManager();
+    if (!terrain)
+        return;
+    isWanted_ = false;
+    askedBox_ = wantedBox(view);
+    const auto side = [](double degrees, double degreesPerPixel) {
+        const double pixels = degrees / degreesPerPixel / coarseness;
+        return static_cast<irr::u32>(std::clamp(pixels, double(smallestSide), double(largestSide)));
+    };
+    const irr::core::dimension2d<irr::u32> size(side(askedBox_.getWidth(), view.getLongitudePerPixel()),
+                                                side(askedBox_.getHeight(), view.getLatitudePerPixel()));
+    irr::video::IVideoDriver* driver = drawer_->getDevice()->getVideoDriver();
+    image_ = EngineRef<irr::video::IImage>::adopt(driver->createImage(irr::video::ECF_A8R8G8B8, size));
+    if (!image_)
+        return;
+    isAsked_ = true;
+    askedMetresPerPixel_ = view.getMetresPerPixel();
+    terrain->requestTerrainImage(panel_, askedBox_.getNW(), askedBox_.getSE(), image_.get());
+}
+
+void MapTerrain::onResult(const ChartPosition&, const ChartPosition&, irr::video::IImage* image, bool undefined,
+                          float minimum, float average, float maximum) {
+    if (!image || image != image_.get())
+        return; // of a request that was replaced
+    isAsked_ = false;
+    box_ = askedBox_;
+    metresPerPixel_ = askedMetresPerPixel_;
+    undefined_ = undefined;
+    minimum_ = minimum;
+    average_ = average;
+    maximum_ = std::max(maximum, minimum + 1.0f);
+    setTexture(*image);
+    image_.reset();
+}
+
+void MapTerrain::setTexture(irr::video::IImage& image) {
+    removeTexture();
+    irr::video::IVideoDriver* driver = drawer_->getDevice()->getVideoDriver();
+    const bool mipMaps = driver->getTextureCreationFlag(irr::video::ETCF_CREATE_MIP_MAPS);
+    const bool anySize = driver->getTextureCreationFlag(irr::video::ETCF_ALLOW_NON_POWER_2);
+    driver->setTextureCreationFlag(irr::video::ETCF_CREATE_MIP_MAPS, false);
+    driver->setTextureCreationFlag(irr::video::ETCF_ALLOW_NON_POWER_2, true);
+    texture_ = driver->addTexture(uniqueName().c_str(), &image);
+    driver->setTextureCreationFlag(irr::video::ETCF_CREATE_MIP_MAPS, mipMaps);
+    driver->setTextureCreationFlag(irr::video::ETCF_ALLOW_NON_POWER_2, anySize);
+    quad_->Material.setTexture(0, texture_);
+}
+
+void MapTerrain::removeTexture() {
+    quad_->Material.setTexture(0, nullptr);
+    if (texture_)
+        drawer_->getDevice()->getVideoDriver()->removeTexture(texture_);
+    texture_ = nullptr;
+}
+
+/// Those of the ground around the aircraft, as the synthetic view has them; of the picture where nobody knows them.
+void MapTerrain::setHeightLimits(double altitudeMetres) {
+    float lowest = minimum_, middle = average_, highest = maximum_;
+    TerrainManager* terrain = context_->getPanelManager()->getTerrainManager();
+    if (terrain && !terrain->isWholeMeshUndefined()) {
+        lowest = terrain->getMinTerrainElevationInVicinity();
+        middle = terrain->getAverageTerrainElevationInVicinity();
+        highest = terrain->getMaxTerrainElevationInVicinity();
+        if (!terrain->isWholeWideMeshUndefined()) {
+            lowest = std::min(lowest, terrain->getMinWideTerrainElevation());
+            highest = std::max(highest, terrain->getMaxWideTerrainElevation());
+        }
+    }
+    if (OGLTerrain2DCB* shader = context_->getMaterialManager()->getTerrain2D())
+        shader->setHeightLimits(lowest, middle, std::max(highest, lowest + 1.0f), static_cast<float>(altitudeMetres));
+}
+
+void MapTerrain::draw(const MapView& view, double altitudeMetres, bool isOpaque) {
+    if (!isDrawable())
+        return;
+    OGLTerrain2DCB* shader = context_->getMaterialManager()->getTerrain2D();
+    if (!shader)
+        return;
+    setHeightLimits(altitudeMetres);
+    shader->setAlpha(isOpaque ? 1.0f : overlayAlpha, isOpaque ? 1.0f : warningAlpha);
+    shader->setImageSize(texture_->getSize());
+    shader->moveLight();
+    // From the middle, so that a wide picture's corners don't take the shorter way round.
+    const MapView::Point middle = view.toPanel(box_.getCentre());
+    const double halfWidth = 0.5 * box_.getWidth() / view.getLongitudePerPixel();
+    const double halfHeight = 0.5 * box_.getHeight() / view.getLatitudePerPixel();
+    MapView::Point corners[4];
+    for (int i = 0; i < 4; ++i) {
+        const MapView::Point offset((i & 1) ? halfWidth : -halfWidth, (i >> 1) ? halfHeight : -halfHeight);
+        corners[i] = middle + turnToTop(offset, view.getTopTrack());
+    }
+    placeQuad(*quad_, corners, irr::video::SColor(0xffffffff));
+    drawer_->draw2DMeshBuffer(quad_.get());
+}
+
+} // namespace skyvane

@@ -1,0 +1,60 @@
+#define GL_GLEXT_PROTOTYPES
+#include "displays/materials/OGLTerrain2DCB.h"
+
+#include "core/time/Time.h"
+
+#include <GL/gl.h>
+#include <GL/glext.h>
+#include <cmath>
+
+namespace skyvane {
+namespace {
+
+constexpr double lightSpeed = 0.1570796327; // radians a second
+/// The shader counts heights in what a byte holds.
+constexpr float unitMetres = 255.0f;
+
+} // namespace
+
+void OGLTerrain2DCB::setHeightLimits(float minimum, float, float maximum, float altitude) {
+    minimum_ = minimum / unitMetres;
+    maximum_ = maximum / unitMetres;
+    altitude_ = altitude / unitMetres;
+}
+
+void OGLTerrain2DCB::moveLight() {
+    const double angle = lightSpeed * std::fmod(Secs(), 4000.0);
+    light_.set(static_cast<float>(std::cos(angle)), -1.0f, static_cast<float>(std::sin(angle)));
+}
+
+void OGLTerrain2DCB::setAlpha(float normal, float warning) {
+    normalAlpha_ = normal;
+    warningAlpha_ = warning;
+}
+
+void OGLTerrain2DCB::setImageSize(const irr::core::dimension2d<irr::u32>& size) {
+    imageSize_[0] = static_cast<float>(size.Width);
+    imageSize_[1] = static_cast<float>(size.Height);
+}
+
+void OGLTerrain2DCB::OnSetConstants(irr::video::IMaterialRendererServices* services, irr::s32) {
+    irr::video::IVideoDriver* driver = services->getVideoDriver();
+    irr::core::matrix4 transform = driver->getTransform(irr::video::ETS_PROJECTION);
+    transform *= driver->getTransform(irr::video::ETS_VIEW);
+    transform *= driver->getTransform(irr::video::ETS_WORLD);
+    services->setVertexShaderConstant("uWVPMatrix", transform.pointer(), 16);
+    services->setPixelShaderConstant("uMinH", &minimum_, 1);
+    services->setPixelShaderConstant("uMaxH", &maximum_, 1);
+    services->setPixelShaderConstant("uAltitude", &altitude_, 1);
+    services->setPixelShaderConstant("lightDir", &light_.X, 3);
+    services->setPixelShaderConstant("uNormalAlpha", &normalAlpha_, 1);
+    services->setPixelShaderConstant("uWarnAlpha", &warningAlpha_, 1);
+    services->setPixelShaderConstant("uImageSize", imageSize_, 2);
+    for (const irr::s32 unit : {0, 1}) {
+        const char* const name = unit == 0 ? "uTextureUnit0" : "uTextureUnit1";
+        services->setPixelShaderConstant(name, reinterpret_cast<const irr::f32*>(&unit), 1);
+    }
+    glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+}
+
+} // namespace skyvane
