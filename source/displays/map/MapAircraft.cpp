@@ -60,7 +60,8 @@ void MapAircraft::drawNose(int length, float turnedDegrees) {
     const int step = unit >= nearestMarks ? 1 : unit * bigMarkEvery >= nearestMarks ? bigMarkEvery : length;
     for (int mark = step; mark < length && mark * unit < longest; mark += step) {
         const PanelTexture& picture = mark % bigMarkEvery == 0 ? images_.noseSegmentBig : images_.noseSegment;
-        const MapView::Point ahead = turnFromTop(MapView::Point(0.0, -mark * unit), static_cast<double>(turnedDegrees));
+        const MapView::Point ahead =
+            turnFromTop(MapView::Point(0.0, -mark * unit), -static_cast<double>(turnedDegrees));
         drawer->Draw(picture.get(), place + toPixel(ahead), size(picture), turnedDegrees, {0.5f, 0.5f});
     }
 }

@@ -17,7 +17,7 @@ struct Look {
 
 /// In the order of the enumeration, from above.
 constexpr Look looks[] = {
-    {L"+", "greyVis"},      {L"-", "greyVis"},      {L"Info", "blueVis"},     {L"Create", "direct2Normal"},
+    {L"+", "greyVis"},      {L"-", "greyVis"},      {L"Info", "blueVis"},     {L"     Create", "direct2Normal"},
     {L"Center", "blueVis"}, {L"Next", "yellowVis"}, {L"Options", "brownVis"}, {L"Help", "greyVis"}};
 constexpr const char* procedureStyle = "proc2Normal";
 constexpr const char* directStyle = "direct2Normal";

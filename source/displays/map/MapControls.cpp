@@ -30,7 +30,7 @@ const irr::video::SColor usedZoomBarColor(0x80404040);
 constexpr float compassShare = 0.6f; // of a button's width
 constexpr float zoomBarShare = 0.75f;
 constexpr float needlePivot = 0.4765625f;
-constexpr float smallText = 0.62f;
+constexpr float smallText = 0.72f;
 constexpr float rowShare = 0.62f; // of a button's height
 constexpr double drawingWidth = 1.25, drawingAspect = 3.0476190476190474, drawingText = 0.8;
 

@@ -137,16 +137,13 @@ void MapTerrain::setHeightLimits(double altitudeMetres) {
             highest = std::max(highest, terrain->getMaxWideTerrainElevation());
         }
     }
-    if (OGLTerrain2DCB* shader = context_->getMaterialManager()->getTerrain2D())
-        shader->setHeightLimits(lowest, middle, std::max(highest, lowest + 1.0f), static_cast<float>(altitudeMetres));
+    context_->getMaterialManager()->getTerrain2DCallback()->setHeightLimits(lowest, middle, std::max(highest, lowest + 1.0f), static_cast<float>(altitudeMetres));
 }
 
 void MapTerrain::draw(const MapView& view, double altitudeMetres, bool isOpaque) {
     if (!isDrawable())
         return;
-    OGLTerrain2DCB* shader = context_->getMaterialManager()->getTerrain2D();
-    if (!shader)
-        return;
+    OGLTerrain2DCB* shader = context_->getMaterialManager()->getTerrain2DCallback();
     setHeightLimits(altitudeMetres);
     shader->setAlpha(isOpaque ? 1.0f : overlayAlpha, isOpaque ? 1.0f : warningAlpha);
     shader->setImageSize(texture_->getSize());

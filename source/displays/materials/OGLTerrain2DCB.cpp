@@ -52,7 +52,7 @@ void OGLTerrain2DCB::OnSetConstants(irr::video::IMaterialRendererServices* servi
     services->setPixelShaderConstant("uImageSize", imageSize_, 2);
     for (const irr::s32 unit : {0, 1}) {
         const char* const name = unit == 0 ? "uTextureUnit0" : "uTextureUnit1";
-        services->setPixelShaderConstant(name, reinterpret_cast<const irr::f32*>(&unit), 1);
+        services->setPixelShaderConstant(name, &unit, 1);
     }
     glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
 }
