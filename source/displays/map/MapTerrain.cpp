@@ -41,11 +41,11 @@ EngineRef<irr::scene::SMeshBuffer> makeQuad(irr::video::E_MATERIAL_TYPE type, ir
 } // namespace
 
 MapTerrain::MapTerrain(Context* context, IPanel* panel, irr::video::ITexture* gradient)
-    : context_(context), drawer_(context->getDrawer()), panel_(panel),
+    : context_(context), panels_(context->getPanelManager()), drawer_(context->getDrawer()), panel_(panel),
       quad_(makeQuad(context->getMaterialManager()->getMaterialType("Terrain2D"), gradient)) {}
 
 MapTerrain::~MapTerrain() {
-    if (TerrainManager* terrain = context_->getPanelManager()->getTerrainManager())
+    if (TerrainManager* terrain = panels_->getTerrainManager())
         terrain->deleteTerrainImageRequestsFromCaller(panel_);
     removeTexture();
 }
@@ -69,7 +69,7 @@ void MapTerrain::requestIfNeeded(const MapView& view) {
 }
 
 void MapTerrain::request(const MapView& view) {
-    TerrainManager* terrain = context_->getPanelManager()->getTerrainManager();
+    TerrainManager* terrain = panels_->getTerrainManager();
     if (!terrain)
         return;
     isWanted_ = false;
@@ -127,7 +127,7 @@ void MapTerrain::removeTexture() {
 /// Those of the ground around the aircraft, as the synthetic view has them; of the picture where nobody knows them.
 void MapTerrain::setHeightLimits(double altitudeMetres) {
     float lowest = minimum_, middle = average_, highest = maximum_;
-    TerrainManager* terrain = context_->getPanelManager()->getTerrainManager();
+    TerrainManager* terrain = panels_->getTerrainManager();
     if (terrain && !terrain->isWholeMeshUndefined()) {
         lowest = terrain->getMinTerrainElevationInVicinity();
         middle = terrain->getAverageTerrainElevationInVicinity();

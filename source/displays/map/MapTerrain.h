@@ -11,6 +11,7 @@ namespace skyvane {
 
 class Context;
 class Drawer2D;
+class PanelManager;
 class IPanel;
 
 /// The ground below a map: a picture of heights and slopes that the terrain's thread makes, coloured as it is drawn by
@@ -42,6 +43,7 @@ private:
     void setHeightLimits(double altitudeMetres);
 
     Context* context_;
+    PanelManager* panels_; ///< Beyond its own life in the context, while it lets its panels go.
     Drawer2D* drawer_;
     IPanel* panel_;
     EngineRef<irr::scene::SMeshBuffer> quad_;

@@ -28,7 +28,7 @@ EngineRef<irr::scene::SMeshBuffer> makeQuad(irr::video::ITexture* target) {
 } // namespace
 
 MapTiles::MapTiles(Context* context, const void* owner, TileWriters& writers)
-    : context_(context), drawer_(context->getDrawer()), owner_(owner), writers_(writers) {}
+    : panels_(context->getPanelManager()), drawer_(context->getDrawer()), owner_(owner), writers_(writers) {}
 
 MapTiles::~MapTiles() {
     release();
@@ -50,7 +50,7 @@ bool MapTiles::create(const TileShape& shape, int id) {
 
 bool MapTiles::request(Set& set, int id) {
     for (int i = 0; i < shape_.getCount(); ++i) {
-        irr::video::ITexture* target = context_->getPanelManager()->requestRTT(this, id, shape_.edge);
+        irr::video::ITexture* target = panels_->requestRTT(this, id, shape_.edge);
         if (!target)
             return false;
         set.tiles.push_back({target, makeQuad(target)});
@@ -73,7 +73,7 @@ void MapTiles::release(Set& set) {
         const auto writer = writers_.find(tile.target);
         if (writer != writers_.end() && writer->second == owner_)
             writers_.erase(writer);
-        context_->getPanelManager()->removeRequest(tile.target, this, id_);
+        panels_->removeRequest(tile.target, this, id_);
     }
     set = Set();
 }

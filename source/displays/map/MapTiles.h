@@ -13,6 +13,7 @@ namespace skyvane {
 
 class Context;
 class Drawer2D;
+class PanelManager;
 
 /// Who has drawn into which target last: maps of different pages share them.
 using TileWriters = std::map<const irr::video::ITexture*, const void*>;
@@ -75,7 +76,7 @@ private:
     bool beginTarget(Tile& tile, bool clear);
     void drawTile(const Set& set, int number, const MapView& view, irr::u8 alpha);
 
-    Context* context_;
+    PanelManager* panels_; ///< Beyond its own life in the context, while it lets its panels go.
     Drawer2D* drawer_;
     const void* owner_;
     TileWriters& writers_;

@@ -38,7 +38,7 @@ struct RGDContent {
     ChartPosition goal;    ///< Where it goes.
 
     float scale = 1.0f; ///< Of a text, from the font's own size.
-    irr::video::SColor background;
+    irr::video::SColor background{0};
     EngineRef<irr::scene::SMeshBuffer> letters;
 };
 
