@@ -137,7 +137,8 @@ void MapTerrain::setHeightLimits(double altitudeMetres) {
             highest = std::max(highest, terrain->getMaxWideTerrainElevation());
         }
     }
-    context_->getMaterialManager()->getTerrain2DCallback()->setHeightLimits(lowest, middle, std::max(highest, lowest + 1.0f), static_cast<float>(altitudeMetres));
+    context_->getMaterialManager()->getTerrain2DCallback()->setHeightLimits(
+        lowest, middle, std::max(highest, lowest + 1.0f), static_cast<float>(altitudeMetres));
 }
 
 void MapTerrain::draw(const MapView& view, double altitudeMetres, bool isOpaque) {
