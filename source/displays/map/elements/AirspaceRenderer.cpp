@@ -1,14 +1,120 @@
 #include "displays/map/elements/AirspaceRenderer.h"
 
 #include "chart/elements/AirspaceElement.h"
+#include "chart/geodesy/Angles.h"
+#include "core/Context.h"
+#include "displays/PanelManager.h"
+#include "displays/map/Map2D.h"
+#include "displays/map/elements/MapDrawing.h"
 #include "displays/map/elements/RendererParts.h"
+#include "displays/mapmath/elements/AirspaceStyles.h"
 #include "displays/mapmath/elements/OutlineSketch.h"
 
+#include <cmath>
+
 namespace skyvane {
+
+namespace {
+
+constexpr float lineWidth = 0.0037947f; ///< Of the root of the screen's pixels.
+constexpr double bandWidth = 11.0;      ///< In thousandths of it.
+constexpr double fineStep = 0.7, coarseStep = 4.0;
+constexpr double largestLabelArea = 3.0, leastLabelled = 160.0, mostLabelled = 2500.0;
+constexpr float labelScale = 0.55f;
+
+} // namespace
 
 void AirspaceRenderer::renderSketch(const IChartElement* element, const irr::core::rect<int>& rect) {
     const auto& airspace = static_cast<const AirspaceElement&>(*element);
     parts_.painter.draw(planAirspaceSketch(airspace, parts_.painter.frameFor(rect)), rect);
+}
+
+void AirspaceRenderer::calcColor(const IChartElement* element, const Map2D& map, irr::video::SColor& color,
+                                 float& width, float& bandFactor) {
+    const AirspaceStyle& style = airspaceStyle(static_cast<const AirspaceElement&>(*element).airspaceClass);
+    color = irr::video::SColor(style.argb);
+    width = lineWidth * map.getScreenUnit() * style.widthFactor;
+    bandFactor = style.bandFactor;
+}
+
+void AirspaceRenderer::OnPreRender2D() {
+    for (size_t i = 0; i < irrelevant_.size(); ++i)
+        irrelevant_[i] = i > 0 && isIrrelevant(AirspaceElement::staticAirspaceClassNames[i]);
+}
+
+bool AirspaceRenderer::isIrrelevant(const std::string& airspaceClass) const {
+    const PanelManager& panels = *parts_.context->getPanelManager();
+    for (unsigned i = 0; i < panels.getIrrelevantAirspaceCount(); ++i)
+        if (panels.getIrrelevantAirspace(i) == airspaceClass)
+            return true;
+    return false;
+}
+
+void AirspaceRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) {
+    const auto& airspace = static_cast<const AirspaceElement&>(*element);
+    if (!selected && !map->getSwitches().irrelevant && isIrrelevant(airspace.airspaceClass))
+        return;
+    const MapAffine affine = affineOf(*map, intoRTT);
+    const ShapeRect view = viewOf(*map, intoRTT);
+    const bool isDetailed = map->getViewArea() <= largestDetailedAirspaceArea;
+    affine.project(airspace.vertices, path_);
+    thinOut(path_, isDetailed ? fineStep : coarseStep, thinned_);
+    irr::video::SColor color;
+    float width, bandFactor;
+    calcColor(element, *map, color, width, bandFactor);
+    const double band = bandFactor * pixelsOf(*map, bandWidth);
+    const uint32_t argb = color.color;
+    if (isDetailed)
+        addBand(mesh_, thinned_, airspace.excludes ? -band : band, withAlpha(argb, 0.5), withAlpha(argb, 0.12), view);
+    if (selected)
+        addStroke(mesh_, thinned_, {2.6f * width, selectionColor, true, 0.0f, 0.0f}, view);
+    addStroke(mesh_, thinned_, {width, argb, true, 0.0f, 0.0f}, view);
+    drawShapes(*map, mesh_);
+    if (!selected)
+        addClassLabel(airspace, *map, index, affine);
+}
+
+/// In the middle of airspaces that are large enough to hold it.
+void AirspaceRenderer::addClassLabel(const AirspaceElement& airspace, Map2D& map, int index, const MapAffine& affine) {
+    const PointBounds& bounds = airspace.getBounds();
+    if (map.getViewArea() > largestLabelArea || !bounds.isArea)
+        return;
+    const double pixels = std::sqrt(bounds.areaSquareMetres) * affine.getPixelsPerMetre();
+    if (pixels < leastLabelled || pixels > mostLabelled)
+        return;
+    ChartPosition middle;
+    for (const ChartPosition& vertex : airspace.vertices) {
+        middle.longitude += Angle180(vertex.longitude - airspace.vertices[0].longitude);
+        middle.latitude += vertex.latitude - airspace.vertices[0].latitude;
+    }
+    const auto count = static_cast<double>(airspace.vertices.size());
+    middle = ChartPosition(airspace.vertices[0].longitude + middle.longitude / count,
+                           airspace.vertices[0].latitude + middle.latitude / count);
+    const AirspaceStyle& style = airspaceStyle(airspace.airspaceClass);
+    addLabel(map, index, middle, 1.0,
+             {airspace.airspaceClass + "  " + airspaceLimits(airspace, map.isMetric()),
+              irr::video::SColor(style.argb | 0xff000000), irr::video::SColor(0xff14181d), labelScale, 90.0, false});
+}
+
+bool AirspaceRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,
+                                     const irr::core::vector2d<int>& position) {
+    const auto& airspace = static_cast<const AirspaceElement&>(*element);
+    affineOf(*map, false).project(airspace.vertices, path_);
+    const ShapePoint mouse(position.X, position.Y);
+    return isInside(path_, mouse) || distanceToPath(path_, true, mouse) <= fingerReach(*map);
+}
+
+int AirspaceRenderer::getPriority(const IChartElement* element) {
+    return airspaceStyle(static_cast<const AirspaceElement&>(*element).airspaceClass).priority;
+}
+
+int AirspaceRenderer::getSelectPriority(const IChartElement* element) {
+    const auto& airspace = static_cast<const AirspaceElement&>(*element);
+    return airspaceSelectPriority(airspace.airspaceClass, airspace.getBounds().areaSquareMetres, airspace.bottomFeet);
+}
+
+bool AirspaceRenderer::isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) {
+    return filterOf(*map, index).showsAirspace(staticBytes, irrelevant_.data(), map->getAirspacesBelowFeet());
 }
 
 } // namespace skyvane

@@ -1,13 +1,16 @@
 #include "displays/map/elements/NDBRenderer.h"
 
 #include "chart/elements/NDBElement.h"
+#include "displays/map/Map2D.h"
+#include "displays/map/elements/MapDrawing.h"
 #include "displays/map/elements/RendererParts.h"
 
 namespace skyvane {
 
 namespace {
 
-const irr::video::SColor ndbColor(0xfffa6cff);
+const irr::video::SColor ndbColor(0xfffa6cff), labelColor(0xffffffff), labelBackground(0xff7a1f80);
+constexpr double largestFrequencyArea = 1.0;
 
 } // namespace
 
@@ -15,6 +18,30 @@ void NDBRenderer::renderSketch(const IChartElement* element, const irr::core::re
     const auto& ndb = static_cast<const NDBElement&>(*element);
     renderPointSketch(parts_, rect, parts_.textures.get("ndb"), {ndbColor, darkHalo},
                       {ndb.ident, ndb.frequencyKilohertz ? ndb.getFormattedFrequency() : std::string(), ndb.name});
+}
+
+void NDBRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) {
+    const auto& ndb = static_cast<const NDBElement&>(*element);
+    const double edge = map->getElementSizePx();
+    if (!map->isInside(ndb.position, edge, edge, intoRTT))
+        return;
+    const ShapePoint middle = affineOf(*map, intoRTT).toPixels(ndb.position);
+    drawSymbol(*map, parts_.textures.get("ndb"), middle, edge, {ndbColor, darkHalo});
+    if (selected)
+        return drawSelectionRing(*map, middle, edge);
+    const bool tellsFrequency = map->getViewArea() <= largestFrequencyArea && ndb.frequencyKilohertz != 0;
+    addLabel(*map, index, ndb.position, edge,
+             {ndb.ident + (tellsFrequency ? "  " + ndb.getFormattedFrequency() : ""), labelColor, labelBackground, 0.9f,
+              -120.0, map->isProcedureTarget(index)});
+}
+
+bool NDBRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,
+                                const irr::core::vector2d<int>& position) {
+    return isMouseOverSymbol(*map, element->getPosition(), map->getElementSizePx(), position);
+}
+
+bool NDBRenderer::isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) {
+    return filterOf(*map, index).showsNavaid(staticBytes);
 }
 
 } // namespace skyvane

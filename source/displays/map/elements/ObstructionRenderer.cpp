@@ -2,17 +2,25 @@
 
 #include "chart/elements/AltitudeCodes.h"
 #include "chart/elements/ObstructionElement.h"
+#include "chart/geodesy/EarthConstants.h"
 #include "core/Context.h"
 #include "core/text/Numbers.h"
 #include "displays/PanelManager.h"
+#include "displays/map/Map2D.h"
+#include "displays/map/elements/MapDrawing.h"
 #include "displays/map/elements/RendererParts.h"
+#include "displays/mapmath/AltitudeTint.h"
 
 namespace skyvane {
 
 namespace {
 
 constexpr int tallFeet = 500;
-const irr::video::SColor plainColor(0xffffb000);
+const irr::video::SColor plainColor(0xffffb000), labelColor(0xffffffff), labelBackground(0xff30261a);
+constexpr double cellShare = 0.55; ///< Of a symbol: closer ones are one.
+constexpr double largestLabelArea = 0.3;
+constexpr float labelScale = 0.6f;
+constexpr int noElement = -9999999;
 
 /// By shape: tall, in a group, lit.
 const char* symbolOf(bool isTall, bool isGroup, bool isLit) {
@@ -34,6 +42,77 @@ void ObstructionRenderer::renderSketch(const IChartElement* element, const irr::
     renderPointSketch(parts_, rect, symbol, {plainColor, darkHalo},
                       {toText(displayedAltitude(obstruction.altitudeMslFeet, metric)) + unit + " MSL",
                        toText(displayedAltitude(obstruction.heightAglFeet, metric)) + unit + " AGL"});
+}
+
+irr::video::SColor ObstructionRenderer::calcColor(double metresBelow) {
+    return irr::video::SColor(altitudeTint(metresBelow));
+}
+
+void ObstructionRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) {
+    const auto& obstruction = static_cast<const ObstructionElement&>(*element);
+    const double edge = map->getElementSizePx();
+    if (!map->isInside(obstruction.position, edge, edge, intoRTT))
+        return;
+    const MapAffine affine = affineOf(*map, intoRTT);
+    const ShapePoint middle = affine.toPixels(obstruction.position);
+    if (selected) {
+        drawObstruction(*map, middle, obstruction.altitudeMslFeet,
+                        {obstruction.heightAglFeet >= tallFeet, obstruction.isGroup, obstruction.hasKnownLighting});
+        return drawSelectionRing(*map, middle, edge);
+    }
+    ObstructionGroups& groups = groups_[map];
+    const MapBox& box = map->getDrawnBox(intoRTT);
+    const double cell = cellShare * edge;
+    groups.start({box.west, box.north}, cell / affine.east.getLength(), cell / affine.north.getLength());
+    groups.isIntoRTT = intoRTT;
+    groups.add(obstruction, index, middle);
+}
+
+void ObstructionRenderer::OnPostPriority2D(Map2D* map, int priority) {
+    const auto found = groups_.find(map);
+    if (priority != getPriority(nullptr) || found == groups_.end())
+        return;
+    for (const ObstructionGroups::Group& group : found->second.getGroups()) {
+        const auto& members = group.members;
+        drawObstruction(*map, {members.getPosition().X, members.getPosition().Y}, members.getHighestMslFeet(),
+                        {members.getHighestAglFeet() >= tallFeet, members.getCount() > 1, group.isLit});
+        if (map->getViewArea() <= largestLabelArea)
+            addLabel(*map, group.index, group.position, 0.7 * map->getElementSizePx(),
+                     {toText(displayedAltitude(members.getHighestMslFeet(), map->isMetric())), labelColor,
+                      labelBackground, labelScale, 0.0, false});
+    }
+    groups_.erase(found);
+}
+
+void ObstructionRenderer::drawObstruction(Map2D& map, const ShapePoint& middle, int topFeet, const Shape& shape) {
+    drawSymbol(map, parts_.textures.get(symbolOf(shape.isTall, shape.isGroup, shape.isLit)), middle,
+               map.getElementSizePx(), {calcColor(map.getAltitude() - topFeet * MetresPerFoot), darkHalo});
+}
+
+bool ObstructionRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,
+                                        const irr::core::vector2d<int>& position) {
+    return isMouseOverSymbol(*map, element->getPosition(), map->getElementSizePx(), position);
+}
+
+bool ObstructionRenderer::will2DMapChange(Map2D* map, const IChartElement* element, double fromAltitudeMetres,
+                                          double toAltitudeMetres) {
+    char bytes[IChartElement::StaticDataSize];
+    element->writeStaticData(bytes);
+    return may2DMapPotentiallyChange(map, bytes, fromAltitudeMetres, toAltitudeMetres);
+}
+
+bool ObstructionRenderer::may2DMapPotentiallyChange(Map2D* map, const char* staticBytes, double fromAltitudeMetres,
+                                                    double toAltitudeMetres) {
+    const MapFilter filter = filterOf(*map, noElement);
+    const bool wasShown = filter.showsObstruction(staticBytes, fromAltitudeMetres);
+    const bool isShown = filter.showsObstruction(staticBytes, toAltitudeMetres);
+    const double top = staticObstructionTop(staticBytes);
+    return wasShown != isShown ||
+           (isShown && altitudeTint(fromAltitudeMetres - top) != altitudeTint(toAltitudeMetres - top));
+}
+
+bool ObstructionRenderer::isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) {
+    return filterOf(*map, index).showsObstruction(staticBytes, map->getAltitude());
 }
 
 } // namespace skyvane

@@ -1,14 +1,20 @@
 #include "displays/map/elements/VORRenderer.h"
 
 #include "chart/elements/VORElement.h"
+#include "chart/geodesy/Angles.h"
 #include "core/text/Numbers.h"
+#include "displays/map/Map2D.h"
+#include "displays/map/elements/MapDrawing.h"
 #include "displays/map/elements/RendererParts.h"
 
 namespace skyvane {
 
 namespace {
 
-const irr::video::SColor vorColor(0xff0000ff);
+const irr::video::SColor vorColor(0xff0000ff), roseColor(0xd00000ff), labelColor(0xffffffff),
+    labelBackground(0xff0000a8);
+constexpr double largestRoseArea = 2.5, largestFrequencyArea = 1.0;
+constexpr double roseSize = 3.6; ///< Times the symbol.
 
 const char* symbolOf(const VORElement& vor) {
     switch (vor.vorType) {
@@ -36,6 +42,36 @@ void VORRenderer::renderSketch(const IChartElement* element, const irr::core::re
     const auto& vor = static_cast<const VORElement&>(*element);
     renderPointSketch(parts_, rect, parts_.textures.get(symbolOf(vor)), {vorColor, lightHalo},
                       {vor.ident, frequencyText(vor), vor.name});
+}
+
+void VORRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) {
+    const auto& vor = static_cast<const VORElement&>(*element);
+    const MapAffine affine = affineOf(*map, intoRTT);
+    const double edge = map->getElementSizePx(), reach = roseSize * edge;
+    if (!map->isInside(vor.position, reach, reach, intoRTT))
+        return;
+    const ShapePoint middle = affine.toPixels(vor.position);
+    if (map->getViewArea() <= largestRoseArea && vor.vorType != VORElement::Tacan) {
+        const bool isKnown = vor.magneticVariationDegrees > UnknownVariationBelow;
+        const double north = affine.getTurnDegrees() + (isKnown ? vor.magneticVariationDegrees : 0.0);
+        drawSymbol(*map, {parts_.textures.getPicture("vor_rose"), nullptr}, middle, reach, {roseColor, lightHalo},
+                   -north);
+    }
+    drawSymbol(*map, parts_.textures.get(symbolOf(vor)), middle, edge, {vorColor, lightHalo});
+    if (selected)
+        return drawSelectionRing(*map, middle, edge);
+    const std::string frequency = map->getViewArea() <= largestFrequencyArea ? "  " + frequencyText(vor) : "";
+    addLabel(*map, index, vor.position, edge,
+             {vor.ident + frequency, labelColor, labelBackground, 0.9f, -90.0, map->isProcedureTarget(index)});
+}
+
+bool VORRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,
+                                const irr::core::vector2d<int>& position) {
+    return isMouseOverSymbol(*map, element->getPosition(), map->getElementSizePx(), position);
+}
+
+bool VORRenderer::isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) {
+    return filterOf(*map, index).showsNavaid(staticBytes);
 }
 
 } // namespace skyvane

@@ -1,13 +1,17 @@
 #include "displays/map/elements/WaypointRenderer.h"
 
 #include "chart/elements/WaypointElement.h"
+#include "displays/map/Map2D.h"
+#include "displays/map/elements/MapDrawing.h"
 #include "displays/map/elements/RendererParts.h"
 
 namespace skyvane {
 
 namespace {
 
-const irr::video::SColor fixColor(0xff33f8ff), reportingColor(0xffffffff);
+const irr::video::SColor fixColor(0xff33f8ff), reportingColor(0xffffffff), labelBackground(0xff12303a);
+constexpr int namedPriority = 102310, plainPriority = 101910;
+constexpr double namedSize = 0.8, plainSize = 0.5; ///< Times the usual symbol.
 
 /// Reporting points are filled, other fixes aren't; what has no name of its own is a cross.
 const char* symbolOf(const WaypointElement& waypoint) {
@@ -23,6 +27,34 @@ void WaypointRenderer::renderSketch(const IChartElement* element, const irr::cor
     const irr::video::SColor color = waypoint.isReportingPoint ? reportingColor : fixColor;
     renderPointSketch(parts_, rect, parts_.textures.get(symbolOf(waypoint)), {color, darkHalo},
                       {waypoint.isPublic ? waypoint.ident : std::string()});
+}
+
+void WaypointRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) {
+    const auto& waypoint = static_cast<const WaypointElement&>(*element);
+    const double edge = (waypoint.isPublic ? namedSize : plainSize) * map->getElementSizePx();
+    if (!map->isInside(waypoint.position, edge, edge, intoRTT))
+        return;
+    const ShapePoint middle = affineOf(*map, intoRTT).toPixels(waypoint.position);
+    const irr::video::SColor color = waypoint.isReportingPoint ? reportingColor : fixColor;
+    drawSymbol(*map, parts_.textures.get(symbolOf(waypoint)), middle, edge, {color, darkHalo});
+    if (selected)
+        return drawSelectionRing(*map, middle, edge);
+    const bool isTarget = map->isProcedureTarget(index);
+    if (waypoint.isPublic && (isTarget || map->getViewArea() <= largestWaypointLabelArea))
+        addLabel(*map, index, waypoint.position, edge, {waypoint.ident, color, labelBackground, 0.8f, 60.0, isTarget});
+}
+
+bool WaypointRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,
+                                     const irr::core::vector2d<int>& position) {
+    return isMouseOverSymbol(*map, element->getPosition(), namedSize * map->getElementSizePx(), position);
+}
+
+int WaypointRenderer::getSelectPriority(const IChartElement* element) {
+    return static_cast<const WaypointElement&>(*element).isPublic ? namedPriority : plainPriority;
+}
+
+bool WaypointRenderer::isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) {
+    return filterOf(*map, index).showsWaypoint(staticBytes);
 }
 
 } // namespace skyvane

@@ -13,6 +13,12 @@ public:
     explicit WaypointRenderer(RendererParts& parts) : parts_(parts) {}
 
     void renderSketch(const IChartElement* element, const irr::core::rect<int>& rect) override;
+    void render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) override;
+    bool isMouseOver2D(Map2D* map, const IChartElement* element, int index,
+                       const irr::core::vector2d<int>& position) override;
+    int getPriority(const IChartElement*) override { return 800; }
+    int getSelectPriority(const IChartElement* element) override;
+    bool isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) override;
 
 private:
     RendererParts& parts_;
