@@ -4,15 +4,18 @@
 #include "core/files/CompressedBlock.h"
 #include "terrain/jobs/TerrainJob.h"
 #include "terrain/mesh/NearMesh.h"
+#include "terrain/paging/TerrainPager.h"
 #include "terrain/tree/TerrainSampler.h"
 #include "terrain/tree/TileSampling.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <unistd.h>
 #include <zlib.h>
 
 namespace skyvane {
@@ -199,13 +202,51 @@ double levelsScaling(bool smoke) {
         1, [&] { return bench.run(1); }, [&] { return bench.run(2); });
 }
 
+class NoCaller : public ITerrainPointCallback {
+public:
+    void OnHeightPoints(PointCall&) override {}
+};
+
+/// The longest exchange of a frame with the terrain's thread, while that builds meshes, profiles and images, in
+/// microseconds of the frame's own time: all that holds the lock, and a little more.
+double exchange(bool smoke) {
+    const TileFolder folder;
+    TerrainStore store(folder.path(), TerrainStore::DefaultCacheSize);
+    const Tile tile = mountainTile(5);
+    for (const auto& [width, height, north] : {std::tuple(2.0, 1.0, 43.0), {4.0, 2.0, 44.0}, {8.0, 4.0, 44.0}})
+        saveTile(getTilePath(folder.path(), findCell(store, 0, north, width, height)->getId()), tile.data());
+    TerrainPager pager(store, 181);
+    if (!pager.start())
+        return std::nan("");
+    NoCaller caller;
+    TerrainPager::News news;
+    double longest = 0.0;
+    int meshes = 0;
+    const std::vector<ChartPosition> row(500, ChartPosition(0.5, 42.5));
+    for (int i = 0; i < (smoke ? 50 : 2000) || meshes == 0; ++i) {
+        pager.requestHeightPoints(std::make_unique<PointCall>(&caller, row, 0.01));
+        pager.requestImage(
+            std::make_unique<ImageCall>(&store, ChartPosition(0.2, 42.8), ChartPosition(0.8, 42.2), 64, 64));
+        const ChartPosition place(0.5, 42.2 + 0.0003 * i);
+        const double seconds = processorSecondsOf([&] { pager.exchange({place, 1000.0, true}, news); });
+        if (i >= 20) // the first ones touch new memory
+            longest = std::max(longest, seconds);
+        meshes += news.nearMesh;
+        news.points.clear();
+        news.images.clear();
+        usleep(1000);
+    }
+    return longest * 1e6;
+}
+
 } // namespace
 
 std::vector<Bench> terrainBenches() {
     return {{"terrain.near-mesh", Bench::Bound::AtMost, 1.5, nearMesh},
             {"terrain.tile", Bench::Bound::AtMost, 1.2, tileLoading},
             {"terrain.levels", Bench::Bound::AtMost, 1.2, levels},
-            {"terrain.levels-scaling", Bench::Bound::AtLeast, 1.5, levelsScaling}};
+            {"terrain.levels-scaling", Bench::Bound::AtLeast, 1.5, levelsScaling},
+            {"terrain.exchange-us", Bench::Bound::AtMost, 20, exchange}};
 }
 
 } // namespace skyvane

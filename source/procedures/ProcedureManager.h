@@ -89,7 +89,7 @@ public:
 
     /// The ground along the plan, its picture 256 rows high; null while the terrain hasn't answered.
     irr::video::ITexture* getSideTexture() const { return profile_ ? sideTexture_ : nullptr; }
-    const RouteProfile* getLastPointCall() const { return profile_.get(); }
+    RouteProfile* getLastPointCall() { return profile_.get(); }
     void OnHeightPoints(PointCall& call) override;
 
 private:

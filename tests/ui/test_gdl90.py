@@ -1,4 +1,7 @@
 """An ADS-B receiver in flight: the dials follow it, its silence crosses them out, and its attitude can be levelled."""
+import os
+import random
+import socket
 import time
 
 from cockpit import Cockpit
@@ -43,6 +46,34 @@ def test_the_dials_follow_a_receiver_and_fail_with_it(build):
         cockpit.save(cockpit.look(), 'gdl90-silence')
         hold(cockpit, 'gdl90', **STATE)
         check_state(cockpit, build, name='gdl90-again', **STATE)
+        assert cockpit.close() == 0
+
+
+def resident_mb(cockpit):
+    with open('/proc/%d/statm' % cockpit.program.pid) as statm:
+        return int(statm.read().split()[1]) * os.sysconf('SC_PAGESIZE') / 1e6
+
+
+def test_a_flood_leaves_the_display_alive(build):
+    with Cockpit(build, receiver(), SIZE) as cockpit:
+        cockpit.wait_for_window()
+        feeder = hold(cockpit, 'gdl90', **STATE)
+        cockpit.wait(lambda: not crossed(cockpit), 20, 'the device')
+        before = resident_mb(cockpit)
+        noise = random.Random(3)
+        garbage = [bytes(noise.randrange(256) for _ in range(1400)) for _ in range(50)]
+        with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as flood:
+            end = time.time() + 3
+            while time.time() < end:
+                for datagram in garbage:
+                    flood.sendto(datagram, ('127.0.0.1', 4000))
+            grown = resident_mb(cockpit) - before
+        assert grown < 30, 'the flood took %.0f MB' % grown
+        feeder.kill()
+        feeder.wait()
+        cockpit.wait(lambda: len(crossed(cockpit)) == len(DIALS), 10, 'crosses: the display lives')
+        hold(cockpit, 'gdl90', **STATE)
+        cockpit.wait(lambda: not crossed(cockpit), 10, 'the device again')
         assert cockpit.close() == 0
 
 

@@ -52,6 +52,33 @@ def test_a_second_copy_shows_the_flight_of_the_first(build):
         assert first.close() == 0 and second.close() == 0
 
 
+def linked(own_sensor, heading_from, receives, sends, ipv6):
+    """Two sensors, and a forwarder of all that they tell: the flight from one of them, the heading from the other."""
+    flight, receiver = ('S1', 'S2') if heading_from == 2 else ('S2', 'S1')
+    config = DEMO.replace('ForwarderCount = 0', 'ForwarderCount = 1').replace('SensorCount = 2', 'SensorCount = 3')
+    config = config.replace('D2 = 1', 'D2 = 2').replace('[S1]\n' + SIMULATOR, '')
+    return config + ('\n[%s]\n%s\n[%s]\nFactoryIndex = 2\nFactoryName = UDPSensor\nbindPort = %d\nipv6 = %d\n'
+                     '[F0]\nForwarderFactory = 1\nForwarderFactoryName = UDP\nIpv6 = %d\nBroadcast = 0\n'
+                     'TargetAddress = %s\nTargetPort = %d\n'
+                     % (flight, own_sensor, receiver, receives, not ipv6, ipv6, '::1' if ipv6 else '127.0.0.1', sends))
+
+
+def test_two_copies_forward_to_each_other(build):
+    """The first sends its flight over IPv6 to the second, which sends its heading over IPv4 to the first."""
+    xplane = 'FactoryIndex = 5\nFactoryName = XPlane\\ Flight\\ Simulator'
+    first_config = linked(SIMULATOR, 2, 1992, 1991, True)
+    second_config = linked(xplane, 1, 1991, 1992, False)
+    with Cockpit(build, first_config, SIZE) as first, Cockpit(build, second_config, SIZE) as second:
+        for copy in (first, second):
+            copy.wait_for_window()
+            dismiss_box(copy)
+        hold(first, 'flightgear', **dict(STATE, heading=20, vs_fpm=0))
+        hold(second, 'xplane', **dict(STATE, pitch=0, roll=0, altitude_ft=900, ias_kt=60, vs_fpm=0))
+        for copy, name in ((first, 'linked-first'), (second, 'linked-second')):
+            check_state(copy, build, name=name, **dict(STATE, vs_fpm=0))
+        assert first.close() == 0 and second.close() == 0
+
+
 def matrix(heading, pitch, roll):
     """Nine numbers of the attitude, from the aircraft (right, up, forward) to the world (east, up, north)."""
     h, p, r = map(math.radians, (heading, pitch, roll))

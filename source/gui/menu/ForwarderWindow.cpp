@@ -2,6 +2,7 @@
 
 #include "core/Context.h"
 #include "core/text/Utf8.h"
+#include "gui/layoutmath/ShortText.h"
 #include "gui/menu/MenuLayouts.h"
 #include "gui/windows/AskYesNo.h"
 #include "gui/windows/Help.h"
@@ -12,6 +13,16 @@ namespace skyvane {
 namespace {
 
 const char* const helpFile = "Forwarding.hti";
+
+/// A forwarder's name as a row of the list shows it: its kind, and of where it leads to the end.
+std::wstring shortName(const irr::gui::IGUIListBox& list, irr::gui::IGUISkin* skin, const std::wstring& name) {
+    const int margin = skin->getSize(irr::gui::EGDS_SCROLLBAR_SIZE) / 2;
+    const int room = list.getAbsolutePosition().getWidth() - skin->getSize(irr::gui::EGDS_SCROLLBAR_SIZE) - margin;
+    const size_t colon = name.find(L": ");
+    return keepEnd(name, colon == std::wstring::npos ? 0 : colon + 2, [&](const std::wstring& text) {
+        return static_cast<int>(skin->getFont()->getDimension(text.c_str()).Width) <= room;
+    });
+}
 
 } // namespace
 
@@ -33,9 +44,13 @@ ForwarderWindow::ForwarderWindow(Context* context)
 
 void ForwarderWindow::updateForwarderListBox() {
     SensorManager* sensors = context_->getSensorManager();
-    list("lforwarders")->clear();
-    for (int i = 0; i < sensors->getSensorForwarderCount(); ++i)
-        list("lforwarders")->addItem(decodeUtf8(sensors->getSensorForwarder(i)->getName()).c_str());
+    irr::gui::IGUIListBox* forwarders = list("lforwarders");
+    irr::gui::IGUISkin* skin = context_->getIrrlichtDevice()->getGUIEnvironment()->getSkin();
+    forwarders->clear();
+    for (int i = 0; i < sensors->getSensorForwarderCount(); ++i) {
+        const std::wstring name = decodeUtf8(sensors->getSensorForwarder(i)->getName());
+        forwarders->addItem(shortName(*forwarders, skin, name).c_str());
+    }
     element("bremove")->setEnabled(sensors->getSensorForwarderCount() > 0);
 }
 

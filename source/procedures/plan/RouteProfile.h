@@ -18,8 +18,6 @@ struct RouteProfile : PointCall {
     };
     using PointCall::PointCall;
 
-    bool isFilled() const { return maximum >= minimum; }
-
     std::vector<float> pathAltitudes; ///< Metres, one for each place.
     std::vector<Mark> marks;
     double totalMetres = 0.0;

@@ -86,54 +86,55 @@ uint64_t scan(const FileWindow& file, const LogHeader& header, LogIndex& index) 
     return file.size();
 }
 
-/// Writes numbers to the end of a log, a block at a time.
+// Numbers and samples are written as they lie in memory.
+static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__, "a log's numbers are little-endian");
+static_assert(sizeof(LogIndex::Sample) == 8, "a sample is its two numbers");
+
+/// Writes a log's numbers one behind the other.
 class NumberWriter {
 public:
-    NumberWriter(LogEnd& end, uint64_t offset) : end_(end), offset_(offset), block_(BlockBytes) {}
+    NumberWriter(LogEnd& end, uint64_t offset) : end_(end), offset_(offset) {}
 
-    void add(uint32_t number) {
-        if (fill_ == block_.size())
-            flush();
-        writeLogNumber(block_.data() + fill_, number);
-        fill_ += sizeof number;
+    void add(size_t number) {
+        const auto form = static_cast<uint32_t>(number);
+        write(&form, sizeof form);
     }
-    /// False when a block couldn't be written.
-    bool flush() {
-        good_ = good_ && end_.write(block_.data(), fill_, offset_);
-        offset_ += fill_;
-        fill_ = 0;
-        return good_;
+    /// Elements of numbers alone.
+    template <class List>
+    void addAll(const List& list) {
+        write(list.data(), list.size() * sizeof(*list.data()));
     }
+    /// All of it is written.
+    bool isGood() const { return good_; }
 
 private:
-    static constexpr size_t BlockBytes = 65536;
+    void write(const void* bytes, size_t length) {
+        good_ = good_ && end_.write(static_cast<const uint8_t*>(bytes), length, offset_);
+        offset_ += length;
+    }
 
     LogEnd& end_;
     uint64_t offset_;
-    std::vector<uint8_t> block_;
-    size_t fill_ = 0;
     bool good_ = true;
 };
 
 bool writeIndex(LogEnd& end, const LogIndex& index, uint64_t offset) {
     NumberWriter out(end, offset);
-    out.add(static_cast<uint32_t>(index.samples.size()));
-    for (const LogIndex::Sample& sample : index.samples) {
-        out.add(sample.timeMs);
-        out.add(sample.offset);
-    }
-    out.add(static_cast<uint32_t>(index.keys.size()));
-    for (const uint32_t key : index.keys)
-        out.add(key);
-    return out.flush();
+    out.add(index.samples.size());
+    out.addAll(index.samples);
+    out.add(index.keys.size());
+    out.addAll(index.keys);
+    return out.isGood();
 }
 
 /// Back to a log without an index when it can't be written.
 bool append(LogEnd& end, const LogIndex& index, uint64_t offset) {
-    NumberWriter header(end, LogIndexOffsetPlace);
-    header.add(static_cast<uint32_t>(offset));
-    if (end.resize(offset) && writeIndex(end, index, offset) && header.flush())
-        return true;
+    if (end.resize(offset) && writeIndex(end, index, offset)) {
+        NumberWriter header(end, LogIndexOffsetPlace);
+        header.add(offset);
+        if (header.isGood())
+            return true;
+    }
     end.resize(offset);
     return false;
 }

@@ -11,9 +11,6 @@ public:
     std::wstring getName() override;
     std::wstring getDescription() override;
     bool OnConfigChosen(IniFile* ini) override;
-
-protected:
-    std::vector<std::string> neededFactories() const override { return {FlightStateFactory}; }
 };
 
 } // namespace skyvane

@@ -38,8 +38,8 @@ protected:
     const DeviceSensors& device() const { return parts_.device; }
     SensorManager& sensors() const { return *parts_.sensors; }
 
-    /// The factories that the profile can't do without.
-    virtual std::vector<std::string> neededFactories() const = 0;
+    /// The factories that the profile can't do without: the attitude estimator's, unless told otherwise.
+    virtual std::vector<std::string> neededFactories() const { return {FlightStateFactory}; }
     /// False, with a word to the user and the log, when one of them is missing.
     bool hasFactories();
     /// Replaces all sensors of the document by these; every type comes from the first one that has it.

@@ -14,9 +14,6 @@ public:
     std::wstring getObstacle() override;
     std::string getWebsiteURL() override { return "https://www.velmar-avionics.example/tarnlink"; }
     bool isApplicableWebsiteURL() override { return true; }
-
-protected:
-    std::vector<std::string> neededFactories() const override { return {FlightStateFactory}; }
 };
 
 } // namespace skyvane

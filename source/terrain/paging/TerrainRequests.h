@@ -2,6 +2,7 @@
 
 #include "chart/geodesy/ChartPosition.h"
 #include "terrain/mesh/TerrainImage.h"
+#include "terrain/paging/ProfileAirspaces.h"
 
 #include <cstdint>
 #include <map>
@@ -20,7 +21,7 @@ public:
     virtual ~ITerrainPointCallback() = default;
 };
 
-/// The heights of the ground along a row of positions.
+/// The heights of the ground along a row of positions, and the airspaces over it.
 struct PointCall {
     PointCall(ITerrainPointCallback* who, std::vector<ChartPosition> where, double interval)
         : caller(who), positions(std::move(where)), heights(positions.size()), samplingInterval(interval) {}
@@ -29,6 +30,16 @@ struct PointCall {
     /// The leaves of the area tree that hold a position.
     std::map<int, bool> findAreas(IChartElementSource* chart) const;
 
+    /// The heights have come.
+    bool isFilled() const { return maximum >= minimum; }
+
+    // The search for airspaces, on the main thread, a slice of time at a frame.
+
+    void prepareAirspaceFill(IChartElementSource* chart) { airspaces.prepare(positions, *chart); }
+    /// True once all are found.
+    bool continueAirspaceFill(double seconds) { return airspaces.run(seconds); }
+    void finishAirspaceFill() { airspaces.finish(); }
+
     ITerrainPointCallback* caller;
     std::vector<ChartPosition> positions;
     std::vector<float> heights; ///< Metres; 0 without terrain.
@@ -36,7 +47,8 @@ struct PointCall {
     unsigned timeStamp = 0;     ///< MilliSecs() of the answer.
     float minimum = 10000.0f;
     float maximum = -10000.0f;
-    unsigned number = 0; ///< The pager's.
+    ProfileAirspaces airspaces; ///< Of the whole profile, once finishAirspaceFill was called.
+    unsigned number = 0;        ///< The pager's.
 };
 
 /// A picture of the terrain of a rectangle; see fillTerrainImage.

@@ -142,6 +142,17 @@ TEST_F(TerrainJobs, makeLevelsAndEdges) {
     EXPECT_EQ(commonIds().size(), 2u + 1u + 4u);
 }
 
+TEST_F(TerrainJobs, keepToTheMemoryOfTheirBudget) {
+    for (int i = 0; i < 16; ++i)
+        save(cell(i % 4, 44 - i / 4, 1), waves(i));
+    for (const int threads : {0, 1, 3}) {
+        TerrainJob job(store_.getRoot(), store_.getFolder(), progress_, {threads, threads, threads});
+        ASSERT_TRUE(job.run());
+        // What ThreadBudget allows a thread that synchronizes; computing levels it may have far more.
+        EXPECT_LE(job.getPeakTiles(), 2u * static_cast<size_t>(std::max(threads, 1))) << threads;
+    }
+}
+
 TEST_F(TerrainJobs, closeTheSeam) {
     save(cell(359, 43, 1), makeTile([](int, int) { return 100; }));
     save(cell(0, 43, 1), makeTile([](int, int) { return 700; }));

@@ -3,7 +3,9 @@
 #include "chartmaker/command/CompileCommand.h"
 #include "chartmaker/inspect/DrawCommand.h"
 #include "chartmaker/inspect/DumpCommand.h"
+#include "chartmaker/inspect/ReliefCommand.h"
 #include "chartmaker/terrain/BackgroundsCommand.h"
+#include "chartmaker/terrain/LevelsCommand.h"
 #include "chartmaker/terrain/TerrainCommand.h"
 
 #include <algorithm>
@@ -21,7 +23,12 @@ struct Command {
 };
 
 constexpr Command commands[] = {
-    {"compile", runCompile},         {"dump", runDump}, {"draw", runDraw}, {"terrain", runTerrain},
+    {"compile", runCompile}, //
+    {"dump", runDump},       //
+    {"draw", runDraw},       //
+    {"terrain", runTerrain}, //
+    {"levels", runLevels},   //
+    {"relief", runRelief},   //
     {"backgrounds", runBackgrounds},
 };
 

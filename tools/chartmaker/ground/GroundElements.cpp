@@ -4,6 +4,7 @@
 #include "chart/geodesy/EarthConstants.h"
 #include "chart/geodesy/PointSets.h"
 #include "chartmaker/region/Region.h"
+#include "core/text/Numbers.h"
 
 #include <algorithm>
 #include <cmath>
@@ -52,14 +53,17 @@ double GroundElements::toleranceOf(uint8_t feature) const {
 void GroundElements::addArea(const GroundKind& kind, const std::string& name, const GroundPolygon& polygon) {
     const double tolerance = toleranceOf(kind.feature);
     const double smallest = belongsToAirport(kind.feature) ? 0.0 : 100.0 * tolerance * tolerance;
+    bool isWhole = true;
     // First made sound, then cut: cutting crossed outlines may fail.
-    for (const GroundPolygon& simple : simplifyPolygon(polygon, tolerance)) {
+    for (const GroundPolygon& simple : simplifyPolygon(polygon, tolerance, isWhole)) {
         if (areaOf(simple.outline) < smallest)
             continue;
-        for (const GroundPolygon& inside : clipPolygon(simple, boxes_))
-            for (GroundLine& ring : splitPolygon(inside))
+        for (const GroundPolygon& inside : clipPolygon(simple, boxes_, isWhole))
+            for (GroundLine& ring : splitPolygon(inside, isWhole))
                 addElement(kind, name, std::move(ring));
     }
+    if (!isWhole)
+        tellLoss("area", name, polygon.outline);
 }
 
 void GroundElements::addLine(const GroundKind& kind, const std::string& name, GroundLine line) {
@@ -93,12 +97,23 @@ void GroundElements::finish() {
     addNewEdges();
     for (const auto& [lineKind, lines] : lines_) {
         const auto& [feature, widthSteps, name] = lineKind;
-        for (const GroundLine& joined : joinLines(leaveOutRepeated(lines, {})))
-            for (const GroundLine& line : clipLine(simplifyLine(joined, toleranceOf(feature)), boxes_))
+        for (const GroundLine& joined : joinLines(leaveOutRepeated(lines, {}))) {
+            bool isWhole = true;
+            for (const GroundLine& line : clipLine(simplifyLine(joined, toleranceOf(feature)), boxes_, isWhole))
                 for (GroundLine& piece : splitLine(line, maxLinePoints))
                     addElement({feature, false, widthSteps}, name, std::move(piece));
+            if (!isWhole)
+                tellLoss("line", name, joined);
+        }
     }
     lines_.clear();
+}
+
+void GroundElements::tellLoss(const char* what, const std::string& name, const GroundLine& where) {
+    const std::string place =
+        where.empty() ? "" : " at " + toText(where[0].latitude) + " " + toText(where[0].longitude);
+    context_.sink.refuse({path_, 0}, std::string("a part of the ") + what + (name.empty() ? "" : " \"" + name + "\"") +
+                                         place + ": it can't be cut to its size");
 }
 
 void GroundElements::addElement(const GroundKind& kind, const std::string& name, GroundLine vertices) {

@@ -30,6 +30,7 @@ private:
 
     void addNewEdges();
     double toleranceOf(uint8_t feature) const;
+    void tellLoss(const char* what, const std::string& name, const GroundLine& where);
     void addElement(const GroundKind& kind, const std::string& name, GroundLine vertices);
 
     std::string path_;

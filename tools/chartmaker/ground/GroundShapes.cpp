@@ -106,7 +106,7 @@ OGREnvelope toEnvelope(const GroundBox& box) {
 
 /// Calls take with what of the geometry lies in each box.
 template <class Take>
-void clip(const OGRGeometry& geometry, const std::vector<GroundBox>& boxes, Take take) {
+void clip(const OGRGeometry& geometry, const std::vector<GroundBox>& boxes, bool& isWhole, Take take) {
     OGREnvelope envelope;
     geometry.getEnvelope(&envelope);
     for (const GroundBox& box : boxes) {
@@ -117,6 +117,7 @@ void clip(const OGRGeometry& geometry, const std::vector<GroundBox>& boxes, Take
             return take(&geometry);
         const OGRPolygon frame = boxPolygon(box);
         const Geometry inside(geometry.Intersection(&frame));
+        isWhole &= inside != nullptr;
         take(inside.get());
     }
 }
@@ -146,7 +147,7 @@ bool chooseCut(const OGRPolygon& polygon, const OGREnvelope& extent, bool& isVer
     return polygon.getExteriorRing()->getNumPoints() > static_cast<int>(MaxPolygonPoints) + 1;
 }
 
-void splitInto(const OGRPolygon& polygon, int depth, std::vector<GroundLine>& rings) {
+void splitInto(const OGRPolygon& polygon, int depth, std::vector<GroundLine>& rings, bool& isWhole) {
     constexpr int deepest = 48; // a number of halvings that no polygon of this earth needs
     OGREnvelope extent;
     polygon.getEnvelope(&extent);
@@ -156,8 +157,10 @@ void splitInto(const OGRPolygon& polygon, int depth, std::vector<GroundLine>& ri
         rings.push_back(fromLine(*polygon.getExteriorRing(), 1.0, true));
         return;
     }
-    if (depth >= deepest)
+    if (depth >= deepest) {
+        isWhole = false;
         return;
+    }
     GroundBox low{extent.MinX - 1.0, extent.MinY - 1.0, extent.MaxX + 1.0, extent.MaxY + 1.0};
     GroundBox high = low;
     (isVertical ? low.east : low.north) = at;
@@ -165,10 +168,11 @@ void splitInto(const OGRPolygon& polygon, int depth, std::vector<GroundLine>& ri
     for (const GroundBox& half : {low, high}) {
         const OGRPolygon frame = boxPolygon(half);
         const Geometry part(polygon.Intersection(&frame));
+        isWhole &= part != nullptr;
         forParts<OGRPolygon>(part.get(), wkbPolygon, [&](const OGRPolygon& piece) {
             constexpr double sliver = 1e-13; // square degrees, some square millimetres
             if (piece.get_Area() > sliver)
-                splitInto(piece, depth + 1, rings);
+                splitInto(piece, depth + 1, rings, isWhole);
         });
     }
 }
@@ -190,15 +194,17 @@ GroundLine simplifyLine(const GroundLine& line, double toleranceMetres) {
     return out;
 }
 
-std::vector<GroundPolygon> simplifyPolygon(const GroundPolygon& polygon, double toleranceMetres) {
+std::vector<GroundPolygon> simplifyPolygon(const GroundPolygon& polygon, double toleranceMetres, bool& isWhole) {
     if (polygon.outline.size() < 3)
         return {};
     const double eastScale = eastScaleOf(polygon.outline);
     Geometry geometry = toPolygon(polygon, eastScale);
     if (!geometry->IsValid())
         geometry.reset(geometry->MakeValid());
-    if (!geometry)
+    if (!geometry) {
+        isWhole = false;
         return {};
+    }
     if (toleranceMetres > 0.0) {
         Geometry simple(geometry->SimplifyPreserveTopology(toleranceMetres / MetresPerDegree));
         if (simple && !simple->IsEmpty())
@@ -207,27 +213,28 @@ std::vector<GroundPolygon> simplifyPolygon(const GroundPolygon& polygon, double 
     return polygonsOf(geometry.get(), eastScale);
 }
 
-std::vector<GroundLine> clipLine(const GroundLine& line, const std::vector<GroundBox>& boxes) {
+std::vector<GroundLine> clipLine(const GroundLine& line, const std::vector<GroundBox>& boxes, bool& isWhole) {
     std::vector<GroundLine> lines;
-    clip(*toLine(line), boxes, [&](const OGRGeometry* inside) {
+    clip(*toLine(line), boxes, isWhole, [&](const OGRGeometry* inside) {
         forParts<OGRLineString>(inside, wkbLineString,
                                 [&](const OGRLineString& part) { lines.push_back(fromLine(part, 1.0, false)); });
     });
     return lines;
 }
 
-std::vector<GroundPolygon> clipPolygon(const GroundPolygon& polygon, const std::vector<GroundBox>& boxes) {
+std::vector<GroundPolygon> clipPolygon(const GroundPolygon& polygon, const std::vector<GroundBox>& boxes,
+                                       bool& isWhole) {
     std::vector<GroundPolygon> polygons;
-    clip(*toPolygon(polygon), boxes, [&](const OGRGeometry* inside) {
+    clip(*toPolygon(polygon), boxes, isWhole, [&](const OGRGeometry* inside) {
         for (GroundPolygon& part : polygonsOf(inside))
             polygons.push_back(std::move(part));
     });
     return polygons;
 }
 
-std::vector<GroundLine> splitPolygon(const GroundPolygon& polygon) {
+std::vector<GroundLine> splitPolygon(const GroundPolygon& polygon, bool& isWhole) {
     std::vector<GroundLine> rings;
-    splitInto(*toPolygon(polygon), 0, rings);
+    splitInto(*toPolygon(polygon), 0, rings, isWhole);
     return rings;
 }
 

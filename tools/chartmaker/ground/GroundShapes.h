@@ -29,21 +29,25 @@ constexpr size_t MaxPolygonPoints = 2000;
 /// where the tree would miss it.
 constexpr double MaxPolygonDegrees = 0.5;
 
+// What cuts or mends a shape clears `isWhole` when a part of it is lost: geometry that a library gives up on. What has
+// no area, or lies outside, isn't lost.
+
 /// A line with fewer points: every point of the old one is within `toleranceMetres` of the new one (Douglas and
 /// Peucker). The ends stay. A closed line stays closed.
 GroundLine simplifyLine(const GroundLine& line, double toleranceMetres);
 
 /// The same for a polygon, keeping its rings apart. Empty when nothing can be made of it: fewer than three places, or
 /// no area even after its crossings were put right.
-std::vector<GroundPolygon> simplifyPolygon(const GroundPolygon& polygon, double toleranceMetres);
+std::vector<GroundPolygon> simplifyPolygon(const GroundPolygon& polygon, double toleranceMetres, bool& isWhole);
 
 /// What of a line or polygon lies in any of the boxes.
-std::vector<GroundLine> clipLine(const GroundLine& line, const std::vector<GroundBox>& boxes);
-std::vector<GroundPolygon> clipPolygon(const GroundPolygon& polygon, const std::vector<GroundBox>& boxes);
+std::vector<GroundLine> clipLine(const GroundLine& line, const std::vector<GroundBox>& boxes, bool& isWhole);
+std::vector<GroundPolygon> clipPolygon(const GroundPolygon& polygon, const std::vector<GroundBox>& boxes,
+                                       bool& isWhole);
 
 /// Rings that together cover the polygon: none has a hole, more than MaxPolygonPoints, or a side above
 /// MaxPolygonDegrees.
-std::vector<GroundLine> splitPolygon(const GroundPolygon& polygon);
+std::vector<GroundLine> splitPolygon(const GroundPolygon& polygon, bool& isWhole);
 
 /// The pieces of a line of at most `points` points each; neighbours share a point.
 std::vector<GroundLine> splitLine(const GroundLine& line, size_t points);

@@ -1,8 +1,9 @@
 #include "flightfeed/send/StreamSenders.h"
 
+#include "flightfeed/send/HostAddresses.h"
+
 #include <cerrno>
 #include <cstring>
-#include <netdb.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -25,19 +26,12 @@ int listenAt(const addrinfo& address) {
 } // namespace
 
 std::unique_ptr<TcpServerSender> TcpServerSender::open(const std::string& host, int port, std::string& error) {
-    addrinfo hints{};
-    hints.ai_family = AF_UNSPEC;
-    hints.ai_socktype = SOCK_STREAM;
-    addrinfo* found = nullptr;
-    const int result = getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &found);
-    if (result != 0) {
-        error = "can't find \"" + host + "\": " + gai_strerror(result);
+    const HostAddresses found = findHost(host, port, SOCK_STREAM, error);
+    if (!found)
         return nullptr;
-    }
     int handle = -1;
-    for (const addrinfo* entry = found; entry && handle < 0; entry = entry->ai_next)
+    for (const addrinfo* entry = found.get(); entry && handle < 0; entry = entry->ai_next)
         handle = listenAt(*entry);
-    freeaddrinfo(found);
     if (handle >= 0)
         return std::unique_ptr<TcpServerSender>(new TcpServerSender(handle));
     error = "can't listen at \"" + host + "\" port " + std::to_string(port) + ": " + std::strerror(errno);

@@ -1,30 +1,24 @@
 #include "flightfeed/send/UdpSender.h"
 
-#include <netdb.h>
+#include "flightfeed/send/HostAddresses.h"
+
 #include <sys/socket.h>
 #include <unistd.h>
 
 namespace skyvane {
 
 std::unique_ptr<UdpSender> UdpSender::open(const std::string& host, int port, std::string& error) {
-    addrinfo hints{};
-    hints.ai_family = AF_UNSPEC;
-    hints.ai_socktype = SOCK_DGRAM;
-    addrinfo* found = nullptr;
-    const int result = getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &found);
-    if (result != 0) {
-        error = "can't find \"" + host + "\": " + gai_strerror(result);
+    const HostAddresses found = findHost(host, port, SOCK_DGRAM, error);
+    if (!found)
         return nullptr;
-    }
     int handle = -1;
-    for (const addrinfo* entry = found; entry && handle < 0; entry = entry->ai_next) {
+    for (const addrinfo* entry = found.get(); entry && handle < 0; entry = entry->ai_next) {
         handle = socket(entry->ai_family, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
         if (handle >= 0 && connect(handle, entry->ai_addr, entry->ai_addrlen) != 0) {
             close(handle);
             handle = -1;
         }
     }
-    freeaddrinfo(found);
     if (handle < 0) {
         error = "can't send to \"" + host + "\"";
         return nullptr;

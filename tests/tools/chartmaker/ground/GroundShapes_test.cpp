@@ -71,8 +71,9 @@ TEST(GroundShapes, SimplifiedLinesKeepTheirPromise) {
 }
 
 TEST(GroundShapes, SimplifiedPolygonsKeepTheirPromise) {
+    bool isWhole = true;
     const GroundPolygon polygon{star(0.2, 3000, 0.02), {star(0.05, 800, 0.02)}};
-    const std::vector<GroundPolygon> simple = simplifyPolygon(polygon, 60.0);
+    const std::vector<GroundPolygon> simple = simplifyPolygon(polygon, 60.0, isWhole);
     ASSERT_EQ(simple.size(), 1u);
     ASSERT_EQ(simple[0].holes.size(), 1u);
     EXPECT_LT(simple[0].outline.size(), 900u);
@@ -80,18 +81,22 @@ TEST(GroundShapes, SimplifiedPolygonsKeepTheirPromise) {
     closed.push_back(closed.front());
     for (const ChartPosition& place : polygon.outline)
         EXPECT_LE(metresToLine(place, closed), 60.01);
+    EXPECT_TRUE(isWhole);
 }
 
 TEST(GroundShapes, BrokenPolygonsAreMendedOrNothing) {
+    bool isWhole = true;
     const GroundPolygon bow{{{1.0, 1.0}, {2.0, 2.0}, {2.0, 1.0}, {1.0, 2.0}}, {}};
-    EXPECT_EQ(simplifyPolygon(bow, 10.0).size(), 2u);
-    EXPECT_TRUE(simplifyPolygon({{{1.0, 1.0}, {2.0, 2.0}, {1.0, 1.0}}, {}}, 10.0).empty());
-    EXPECT_TRUE(simplifyPolygon({{{1.0, 1.0}, {2.0, 2.0}}, {}}, 10.0).empty());
+    EXPECT_EQ(simplifyPolygon(bow, 10.0, isWhole).size(), 2u);
+    EXPECT_TRUE(simplifyPolygon({{{1.0, 1.0}, {2.0, 2.0}, {1.0, 1.0}}, {}}, 10.0, isWhole).empty());
+    EXPECT_TRUE(simplifyPolygon({{{1.0, 1.0}, {2.0, 2.0}}, {}}, 10.0, isWhole).empty());
+    EXPECT_TRUE(isWhole);
 }
 
 TEST(GroundShapes, SplitPolygonsCoverTheSameGround) {
+    bool isWhole = true;
     const GroundPolygon polygon{star(0.8, 9001, 0.1), {star(0.3, 500, 0.1)}};
-    const std::vector<GroundLine> rings = splitPolygon(polygon);
+    const std::vector<GroundLine> rings = splitPolygon(polygon, isWhole);
     for (const GroundLine& ring : rings) {
         EXPECT_LE(ring.size(), MaxPolygonPoints);
         const auto [west, east] = std::minmax_element(
@@ -107,17 +112,31 @@ TEST(GroundShapes, SplitPolygonsCoverTheSameGround) {
             std::count_if(rings.begin(), rings.end(), [&](const GroundLine& ring) { return isInside(ring, x, y); });
         EXPECT_EQ(holders, isWanted ? 1 : 0) << x << " " << y;
     }
+    EXPECT_TRUE(isWhole);
 }
 
 TEST(GroundShapes, ClipsAtTheEdgesOfBoxes) {
+    bool isWhole = true;
     const std::vector<GroundBox> boxes{{179.0, 0.0, 180.0, 1.0}, {-180.0, 0.0, -179.0, 1.0}};
-    EXPECT_EQ(clipLine({{178.0, 0.5}, {179.5, 0.5}}, boxes).at(0).front().longitude, 179.0);
-    EXPECT_TRUE(clipLine({{100.0, 0.5}, {120.0, 0.5}}, boxes).empty());
+    EXPECT_EQ(clipLine({{178.0, 0.5}, {179.5, 0.5}}, boxes, isWhole).at(0).front().longitude, 179.0);
+    EXPECT_TRUE(clipLine({{100.0, 0.5}, {120.0, 0.5}}, boxes, isWhole).empty());
     const GroundLine square{{-179.5, 0.5}, {-170.0, 0.5}, {-170.0, 0.7}, {-179.5, 0.7}};
-    const std::vector<GroundPolygon> inside = clipPolygon({square, {}}, boxes);
+    const std::vector<GroundPolygon> inside = clipPolygon({square, {}}, boxes, isWhole);
     ASSERT_EQ(inside.size(), 1u);
     for (const ChartPosition& place : inside[0].outline)
         EXPECT_LE(place.longitude, -179.0);
+    EXPECT_TRUE(isWhole);
+}
+
+TEST(GroundShapes, TellWhatCannotBeCut) {
+    const double nowhere = std::nan("");
+    const GroundPolygon broken{{{1.0, 1.0}, {3.0, 1.0}, {nowhere, 2.0}, {3.0, 3.0}, {1.0, 3.0}}, {}};
+    bool isWhole = true;
+    clipPolygon(broken, {{0.0, 0.0, 2.0, 2.0}}, isWhole);
+    EXPECT_FALSE(isWhole);
+    isWhole = true;
+    splitPolygon(broken, isWhole);
+    EXPECT_FALSE(isWhole);
 }
 
 TEST(GroundShapes, JoinsWhatMeetsAndNothingElse) {

@@ -3,6 +3,9 @@
 #include "tools/chartmaker/ChartMakerRun.h"
 
 #include <cstdlib>
+#include <filesystem>
+#include <gdal_priv.h>
+#include <gdal_utils.h>
 
 namespace skyvane {
 namespace {
@@ -13,8 +16,28 @@ struct GroundSource : testing::Test {
     TemporaryFolder folder;
 
     ChartMakerRun compile(const std::string& file, const std::string& region = "world") {
-        return ChartMakerRun({"compile", "--out", folder.path(), "--vendor", "Test", "--area", "Small", "--region",
-                              region, "--ground", file});
+        return compile(std::vector<std::string>{file}, region);
+    }
+    ChartMakerRun compile(const std::vector<std::string>& files, const std::string& region) {
+        Arguments arguments{"compile", "--out", folder.path(), "--vendor", "Test",
+                            "--area",  "Small", "--region",    region,     "--ground"};
+        arguments.insert(arguments.end(), files.begin(), files.end());
+        return ChartMakerRun(arguments);
+    }
+    /// Copies features of a file into another format and coordinate system.
+    static void copyAs(const std::string& from, const std::string& to, std::vector<std::string> options) {
+        GDALAllRegister();
+        std::vector<char*> words;
+        for (std::string& option : options)
+            words.push_back(option.data());
+        words.push_back(nullptr);
+        GDALVectorTranslateOptions* parsed = GDALVectorTranslateOptionsNew(words.data(), nullptr);
+        GDALDatasetH source = GDALOpenEx(from.c_str(), GDAL_OF_VECTOR, nullptr, nullptr, nullptr);
+        GDALDatasetH copy = GDALVectorTranslate(to.c_str(), nullptr, 1, &source, parsed, nullptr);
+        EXPECT_TRUE(copy) << to;
+        GDALVectorTranslateOptionsFree(parsed);
+        GDALClose(copy);
+        GDALClose(source);
     }
     /// The elements of the set that was compiled, a line each, without their numbers.
     std::string dump() {
@@ -54,6 +77,38 @@ TEST_F(GroundSource, TakesGeoJsonCutAtTheRegion) {
                       "GroundGeometry   42.000000    1.000000  Taxiway (lighted): A\n");
     EXPECT_NE(run.error.find("refused"), std::string::npos);
     EXPECT_NE(run.error.find("nowhere on the earth"), std::string::npos) << "latitude 95";
+}
+
+TEST_F(GroundSource, TakesEachFormatInAnyCoordinateSystem) {
+    const std::string original = folder.path("original.geojson");
+    folder.write("original.geojson", R"({"type":"FeatureCollection","features":[
+{"type":"Feature","properties":{"fclass":"reservoir","name":"Embassament"},"geometry":{"type":"Polygon","coordinates":
+[[[1.3,42.3],[1.4,42.3],[1.4,42.4],[1.3,42.4],[1.3,42.3]]]}},
+{"type":"Feature","properties":{"fclass":"motorway","ref":"C 16"},"geometry":{"type":"LineString","coordinates":
+[[1.5,42.1],[1.6,42.3],[1.4,42.5]]}},
+{"type":"Feature","properties":{"fclass":"rail"},"geometry":{"type":"MultiLineString","coordinates":
+[[[1.1,42.1],[1.2,42.2]],[[1.8,42.1],[1.7,42.2]]]}}]})");
+    ASSERT_EQ(compile(original).status, 0);
+    const std::string expected = dump();
+    EXPECT_NE(expected.find("Lake: Embassament"), std::string::npos) << expected;
+    EXPECT_NE(expected.find("Highway: C 16"), std::string::npos) << expected;
+    EXPECT_NE(expected.find("Railway"), std::string::npos) << expected;
+
+    const std::string areas = folder.path("areas.shp"), lines = folder.path("lines.shp");
+    copyAs(original, areas, {"-t_srs", "EPSG:25831", "-where", "OGR_GEOMETRY='POLYGON'"});
+    copyAs(original, lines, {"-t_srs", "EPSG:25831", "-where", "OGR_GEOMETRY<>'POLYGON'", "-nlt", "MULTILINESTRING"});
+    EXPECT_EQ(compile({areas, lines}, "world").error, "");
+    EXPECT_EQ(dump(), expected) << "shapefiles in metres of UTM";
+    for (const char* system : {"EPSG:3857", "EPSG:4326", "EPSG:27572"}) {
+        const std::string package = folder.path(std::string("ground") + (system + 5) + ".gpkg");
+        copyAs(original, package, {"-f", "GPKG", "-t_srs", system});
+        EXPECT_EQ(compile(package).error, "") << system;
+        EXPECT_EQ(dump(), expected) << "a GeoPackage in " << system;
+    }
+    // Without its .prj nobody knows what the metres mean.
+    folder.remove("lines.prj");
+    const ChartMakerRun unknown = compile(lines);
+    EXPECT_NE(unknown.error.find("nowhere on the earth"), std::string::npos) << unknown.error;
 }
 
 TEST_F(GroundSource, RefusesWhatItCannotRead) {
