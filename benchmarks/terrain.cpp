@@ -246,7 +246,7 @@ std::vector<Bench> terrainBenches() {
             {"terrain.tile", Bench::Bound::AtMost, 1.2, tileLoading},
             {"terrain.levels", Bench::Bound::AtMost, 1.2, levels},
             {"terrain.levels-scaling", Bench::Bound::AtLeast, 1.5, levelsScaling},
-            {"terrain.exchange-us", Bench::Bound::AtMost, 20, exchange}};
+            {"terrain.exchange-us", Bench::Bound::AtMost, 50, exchange}};
 }
 
 } // namespace skyvane

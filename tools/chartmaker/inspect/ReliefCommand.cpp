@@ -8,8 +8,9 @@
 #include "terrain/tree/TerrainSampler.h"
 #include "terrain/tree/TerrainStore.h"
 
+#include <algorithm>
+#include <cmath>
 #include <iostream>
-#include <map>
 
 namespace skyvane {
 namespace {
@@ -72,6 +73,20 @@ bool parse(const Arguments& arguments, ReliefOptions& options, std::string& erro
     return error.empty();
 }
 
+/// The wide mesh's triangles without those that lie under the near one, which is another, finer ground.
+std::vector<uint16_t> beyondNear(const TerrainMesh& wide, const std::vector<uint16_t>& indices) {
+    constexpr float hidden = 0.96f * static_cast<float>(NearMesh::RadiusMetres);
+    const auto isUnder = [&wide](uint16_t index) {
+        const auto& place = wide.vertices[index].position;
+        return std::max(std::fabs(place.X), std::fabs(place.Z)) < hidden;
+    };
+    std::vector<uint16_t> rest;
+    for (size_t i = 0; i < indices.size(); i += 3)
+        if (!isUnder(indices[i]) || !isUnder(indices[i + 1]) || !isUnder(indices[i + 2]))
+            rest.insert(rest.end(), &indices[i], &indices[i] + 3);
+    return rest;
+}
+
 } // namespace
 
 int runRelief(const Arguments& arguments) {
@@ -91,11 +106,14 @@ int runRelief(const Arguments& arguments) {
         complain(options.folder + ": no ground there; the coarser levels are the program's to compute");
         return 1;
     }
+    const bool showsWide = options.view.radiusMetres > NearMesh::RadiusMetres;
     options.view.lowestMetres = static_cast<double>(nearMesh.minimum);
-    options.view.highestMetres = static_cast<double>(nearMesh.maximum);
+    options.view.highestMetres =
+        static_cast<double>(showsWide ? std::max(nearMesh.maximum, wideMesh.maximum) : nearMesh.maximum);
     ReliefPicture picture(options.view);
-    picture.draw(wideMesh, WideMesh::makeIndices(), 0.0, 0.0);
-    picture.draw(nearMesh, near.makeIndices(), 0.0, 0.0);
+    picture.draw(wideMesh,
+                 nearMesh.undefined ? WideMesh::makeIndices() : beyondNear(wideMesh, WideMesh::makeIndices()));
+    picture.draw(nearMesh, nearMesh.undefined ? std::vector<uint16_t>() : near.makeIndices());
     if (!picture.save(options.out)) {
         complain("can't write " + options.out);
         return 1;

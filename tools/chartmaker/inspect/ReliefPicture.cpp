@@ -23,10 +23,9 @@ ReliefPicture::ReliefPicture(const View& view)
       pixels_(static_cast<size_t>(view.side) * static_cast<size_t>(view.side), Nothing),
       depths_(pixels_.size(), -std::numeric_limits<double>::infinity()) {}
 
-ReliefPicture::Corner ReliefPicture::place(const TerrainVertex& vertex, double eastMetres, double northMetres) const {
-    const double east = eastMetres + static_cast<double>(vertex.position.X),
-                 up = static_cast<double>(vertex.position.Y),
-                 north = northMetres + static_cast<double>(vertex.position.Z);
+ReliefPicture::Corner ReliefPicture::place(const TerrainVertex& vertex) const {
+    const double east = static_cast<double>(vertex.position.X), up = static_cast<double>(vertex.position.Y),
+                 north = static_cast<double>(vertex.position.Z);
     const auto& normal = vertex.normal;
     const double light = static_cast<double>(normal.X) * LightEast + static_cast<double>(normal.Y) * LightUp +
                          static_cast<double>(normal.Z) * LightNorth;
@@ -35,12 +34,11 @@ ReliefPicture::Corner ReliefPicture::place(const TerrainVertex& vertex, double e
             up * sine_ - north * cosine_, up, light};
 }
 
-void ReliefPicture::draw(const TerrainMesh& mesh, const std::vector<uint16_t>& indices, double eastMetres,
-                         double northMetres) {
+void ReliefPicture::draw(const TerrainMesh& mesh, const std::vector<uint16_t>& indices) {
     std::vector<Corner> corners;
     corners.reserve(mesh.vertices.size());
     for (const TerrainVertex& vertex : mesh.vertices)
-        corners.push_back(place(vertex, eastMetres, northMetres));
+        corners.push_back(place(vertex));
     for (size_t i = 0; i + 2 < indices.size(); i += 3)
         triangle(corners[indices[i]], corners[indices[i + 1]], corners[indices[i + 2]]);
 }

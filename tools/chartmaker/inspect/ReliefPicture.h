@@ -24,8 +24,8 @@ public:
 
     explicit ReliefPicture(const View& view);
 
-    /// The mesh's middle lies so far east and north of the picture's. Triangles face the eye or are left out.
-    void draw(const TerrainMesh& mesh, const std::vector<uint16_t>& indices, double eastMetres, double northMetres);
+    /// The mesh's middle is the picture's. Triangles that don't face the eye are left out.
+    void draw(const TerrainMesh& mesh, const std::vector<uint16_t>& indices);
     /// Pixels within so many metres of the middle that show no ground.
     int countHoles(double radiusMetres) const;
     /// A PNG file. False when it can't be written.
@@ -38,7 +38,7 @@ private:
         double height;
         double light;
     };
-    Corner place(const TerrainVertex& vertex, double eastMetres, double northMetres) const;
+    Corner place(const TerrainVertex& vertex) const;
     void triangle(const Corner& a, const Corner& b, const Corner& c);
     uint32_t colour(double height, double light) const;
 
