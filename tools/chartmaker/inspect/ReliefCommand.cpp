@@ -73,18 +73,12 @@ bool parse(const Arguments& arguments, ReliefOptions& options, std::string& erro
     return error.empty();
 }
 
-/// The wide mesh's triangles without those that lie under the near one, which is another, finer ground.
-std::vector<uint16_t> beyondNear(const TerrainMesh& wide, const std::vector<uint16_t>& indices) {
-    constexpr float hidden = 0.96f * static_cast<float>(NearMesh::RadiusMetres);
-    const auto isUnder = [&wide](uint16_t index) {
-        const auto& place = wide.vertices[index].position;
-        return std::max(std::fabs(place.X), std::fabs(place.Z)) < hidden;
-    };
-    std::vector<uint16_t> rest;
-    for (size_t i = 0; i < indices.size(); i += 3)
-        if (!isUnder(indices[i]) || !isUnder(indices[i + 1]) || !isUnder(indices[i + 2]))
-            rest.insert(rest.end(), &indices[i], &indices[i] + 3);
-    return rest;
+/// Sinks the wide mesh where the near one lies, which is another, finer ground: a skirt hangs down between them.
+void sinkUnderNear(TerrainMesh& wide) {
+    constexpr float covered = 0.94f * static_cast<float>(NearMesh::RadiusMetres), depth = 3000.0f;
+    for (TerrainVertex& vertex : wide.vertices)
+        if (std::max(std::fabs(vertex.position.X), std::fabs(vertex.position.Z)) < covered)
+            vertex.position.Y -= depth;
 }
 
 } // namespace
@@ -111,9 +105,11 @@ int runRelief(const Arguments& arguments) {
     options.view.highestMetres =
         static_cast<double>(showsWide ? std::max(nearMesh.maximum, wideMesh.maximum) : nearMesh.maximum);
     ReliefPicture picture(options.view);
-    picture.draw(wideMesh,
-                 nearMesh.undefined ? WideMesh::makeIndices() : beyondNear(wideMesh, WideMesh::makeIndices()));
-    picture.draw(nearMesh, nearMesh.undefined ? std::vector<uint16_t>() : near.makeIndices());
+    if (!nearMesh.undefined) {
+        picture.draw(nearMesh, near.makeIndices());
+        sinkUnderNear(wideMesh);
+    }
+    picture.draw(wideMesh, WideMesh::makeIndices());
     if (!picture.save(options.out)) {
         complain("can't write " + options.out);
         return 1;

@@ -1,7 +1,5 @@
 #include "chartmaker/inspect/ReliefPicture.h"
 
-#include "terrain/mesh/TerrainColor.h"
-
 #include <cairo.h>
 
 #include <algorithm>
@@ -14,6 +12,10 @@ namespace {
 /// The light comes from the north west, half way up.
 constexpr double LightEast = -0.5, LightUp = 0.7071067811865476, LightNorth = 0.5;
 constexpr double LeastLight = 0.25;
+
+/// Red, green, blue.
+constexpr double Water[] = {120, 165, 205}, Lowland[] = {150, 185, 130}, Hills[] = {205, 190, 140},
+                 Mountains[] = {200, 195, 195};
 
 } // namespace
 
@@ -69,13 +71,16 @@ void ReliefPicture::triangle(const Corner& a, const Corner& b, const Corner& c) 
 }
 
 uint32_t ReliefPicture::colour(double height, double light) const {
-    const uint32_t plain =
-        calcTerrainColor(0.0f, static_cast<float>(height), static_cast<float>(view_.lowestMetres),
-                         static_cast<float>(view_.highestMetres), false, false, TerrainShading::Shader);
-    const double share = std::clamp(light / LightUp, LeastLight, 1.4);
+    const double share =
+        std::clamp((height - view_.lowestMetres) / (view_.highestMetres - view_.lowestMetres), 0.0, 1.0);
+    const double upper = std::max(2.0 * share - 1.0, 0.0), lower = std::min(2.0 * share, 1.0) - upper;
+    const double shade = std::clamp(light / LightUp, LeastLight, 1.3);
     uint32_t shaded = 0xff000000;
-    for (const int shift : {0, 8, 16})
-        shaded |= static_cast<uint32_t>(std::min(255.0, (plain >> shift & 0xff) * share)) << shift;
+    for (int i = 0; i < 3; ++i) {
+        const double plain =
+            height == 0.0 ? Water[i] : Lowland[i] * (1.0 - upper - lower) + Hills[i] * lower + Mountains[i] * upper;
+        shaded |= static_cast<uint32_t>(std::min(255.0, plain * shade)) << (16 - 8 * i);
+    }
     return shaded;
 }
 
