@@ -92,7 +92,7 @@ int runRelief(const Arguments& arguments) {
     }
     TerrainStore store(options.folder, TerrainStore::DefaultCacheSize);
     TerrainSampler sampler(store);
-    const NearMesh near(NearSamples);
+    NearMesh near(NearSamples);
     TerrainMesh nearMesh, wideMesh;
     near.build(sampler, options.place, nearMesh);
     WideMesh().build(sampler, options.place, wideMesh);
