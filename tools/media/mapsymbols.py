@@ -105,12 +105,12 @@ def vortac_arms():
     return out
 
 
-def rose():
+def rose(grown=0):
     """The compass rose of a VOR: north is marked by an arrow."""
-    out = f'<g fill="none" stroke="{WHITE}"><path stroke-width="1.6" d="{ring_path(112)}"/>'
-    out += f'<path stroke-width="1.6" d="{rays([a for a in range(0, 360, 10) if a % 30], 103, 112)}"/>'
-    out += f'<path stroke-width="3" d="{rays(range(30, 360, 30), 96, 112)}"/></g>'
-    return out + f'<path fill="{WHITE}" d="M0 -118L8 -94L0 -100L-8 -94Z"/>'
+    out = f'<g fill="none" stroke="{WHITE}"><path stroke-width="{1.8 + grown}" d="{ring_path(110)}"/>'
+    out += f'<path stroke-width="{1.8 + grown}" d="{rays([a for a in range(0, 360, 10) if a % 30], 101, 110)}"/>'
+    out += f'<path stroke-width="{3.4 + grown}" d="{rays(range(30, 360, 30), 94, 110)}"/></g>'
+    return out + f'<path fill="{WHITE}" stroke="{WHITE}" stroke-width="{grown}" d="M0 -117L8 -92L0 -98L-8 -92Z"/>'
 
 
 def dots(radius, count, size):
@@ -181,6 +181,7 @@ def main():
         write(folder, name + "_halo", symbol.halo())
     write(folder, "map_airport_runway", f'<path fill="{WHITE}" d="M-5.5 -20H5.5V20H-5.5Z"/>')
     write(folder, "map_vor_rose", rose(), 256, 240)
+    write(folder, "map_vor_rose_halo", rose(4), 256, 240)
     write(folder, "map_mark", flag())
 
 

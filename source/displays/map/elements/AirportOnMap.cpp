@@ -15,7 +15,7 @@ namespace skyvane {
 namespace {
 
 constexpr int mainPriority = 102530, otherPriority = 102520;
-constexpr float nearLabel = 1.1f, farLabel = 0.55f;
+constexpr float nearLabel = 1.1f, farLabel = 0.55f; ///< As of ElementLabel.
 /// Below it the label tells the elevation too; below the next the numbers of runways stand at their ends.
 constexpr double largestElevationArea = 0.6, largestNumberArea = 0.05;
 /// A sketch is at least that large, as a share of a symbol.
@@ -94,7 +94,7 @@ void AirportRenderer::render2D(const IChartElement* element, Map2D* map, int ind
     if (placed.isSketch)
         drawRunways(airport, *map, placed, intoRTT);
     else
-        drawAirportSymbol(airport, *map, placed);
+        drawAirportSymbol(airport, *map, placed, intoRTT);
     if (selected)
         return drawSelectionRing(*map, placed.middle, std::min<double>(placed.edge, 3.0 * map->getElementSizePx()));
     render2DText(element, map, index, intoRTT, selected);
@@ -112,7 +112,7 @@ void AirportRenderer::drawRunways(const AirportElement& airport, Map2D& map, con
         drawRunwayNames(airport, map, placed, intoRTT);
 }
 
-/// As painted: seen from the approach, before the threshold.
+/// Before the threshold, along the runway, but never upside down while north is up.
 void AirportRenderer::drawRunwayNames(const AirportElement& airport, Map2D& map, const Placed& placed, bool intoRTT) {
     const auto& strips = airport.getSketch()->getStrips();
     const double away = pixelsOf(map, 15.0);
@@ -122,6 +122,8 @@ void AirportRenderer::drawRunwayNames(const AirportElement& airport, Map2D& map,
             ShapePoint landing = placed(strips[i].ends[1 - end]) - at;
             landing.normalize();
             const ShapePoint middle = at - landing * away;
+            if (landing.Y > 0.0)
+                landing = -landing;
             const double turn = -std::atan2(landing.X, -landing.Y) * degreesPerRadian;
             map.drawText(airport.runways[i].getEndLabel(end),
                          {static_cast<float>(middle.X), static_cast<float>(middle.Y)}, numberColor, 0.8f,
@@ -129,15 +131,15 @@ void AirportRenderer::drawRunwayNames(const AirportElement& airport, Map2D& map,
         }
 }
 
-void AirportRenderer::drawAirportSymbol(const AirportElement& airport, Map2D& map, const Placed& placed) {
+void AirportRenderer::drawAirportSymbol(const AirportElement& airport, Map2D& map, const Placed& placed, bool intoRTT) {
     const Runway* runway = mainRunway(airport);
     const irr::video::SColor color(runway ? runwayLook(runway->surface).symbol : runwayLook(Runway::Solid).symbol);
-    drawSymbol(map, parts_.textures.get(symbolOf(airport)), placed.middle, placed.edge, {color, lightHalo});
+    drawSymbol(map, parts_.textures.get(symbolOf(airport)), placed.middle, placed.edge, {color, lightHalo}, intoRTT);
     if (!showsRunway(airport))
         return;
     const double turn = placed.affine.getTurnDegrees() + runway->directionDegrees;
-    drawSymbol(map, {parts_.textures.getPicture("airport_runway"), nullptr}, placed.middle, placed.edge,
-               {color, lightHalo}, -turn);
+    drawTurnedSymbol(map, {parts_.textures.getPicture("airport_runway"), nullptr}, placed.middle, placed.edge,
+                     {color, lightHalo}, -turn);
 }
 
 void AirportRenderer::render2DText(const IChartElement* element, Map2D* map, int index, bool, bool) {
@@ -153,7 +155,7 @@ void AirportRenderer::render2DText(const IChartElement* element, Map2D* map, int
         text += "  " + toText(displayedAltitude(airport.elevationFeet, map->isMetric()));
     const bool isQuiet = airport.isClosed || airport.isPrivate || airport.isHeliport;
     map->addRGDText(index, text, airport.position, -60.0, labelColor,
-                    area > largestFullLabelArea ? farLabel : nearLabel, {edge, edge},
+                    labelUnit * (area > largestFullLabelArea ? farLabel : nearLabel), {edge, edge},
                     isQuiet ? quietBackground : labelBackground, isMain(airport) || map->isProcedureTarget(index));
     const float size = 1.6f * map->getElementSizePx();
     if (hasWeather)

@@ -45,7 +45,7 @@ private:
     Placed place(const AirportElement& airport, const Map2D& map, bool intoRTT) const;
     void drawRunways(const AirportElement& airport, Map2D& map, const Placed& placed, bool intoRTT);
     void drawRunwayNames(const AirportElement& airport, Map2D& map, const Placed& placed, bool intoRTT);
-    void drawAirportSymbol(const AirportElement& airport, Map2D& map, const Placed& placed);
+    void drawAirportSymbol(const AirportElement& airport, Map2D& map, const Placed& placed, bool intoRTT);
 
     RendererParts& parts_;
     IAirportWeather* weather_ = nullptr;

@@ -1,7 +1,6 @@
 #include "displays/map/elements/AirspaceRenderer.h"
 
 #include "chart/elements/AirspaceElement.h"
-#include "chart/geodesy/Angles.h"
 #include "core/Context.h"
 #include "displays/PanelManager.h"
 #include "displays/map/Map2D.h"
@@ -10,6 +9,7 @@
 #include "displays/mapmath/elements/AirspaceStyles.h"
 #include "displays/mapmath/elements/OutlineSketch.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace skyvane {
@@ -18,9 +18,18 @@ namespace {
 
 constexpr float lineWidth = 0.0037947f; ///< Of the root of the screen's pixels.
 constexpr double bandWidth = 11.0;      ///< In thousandths of it.
+constexpr double rimWidth = 0.9;        ///< Likewise: red lines show on red ground by their dark rim.
+constexpr uint32_t rimColor = 0x80000000;
 constexpr double fineStep = 0.7, coarseStep = 4.0;
-constexpr double largestLabelArea = 3.0, leastLabelled = 160.0, mostLabelled = 2500.0;
-constexpr float labelScale = 0.55f;
+constexpr double largestLabelArea = 3.0, leastLabelled = 110.0;
+constexpr float labelScale = 0.7f;
+const irr::video::SColor labelColor(0xffffffff);
+
+/// Of the same hue, dark enough for white letters.
+uint32_t darkened(uint32_t argb) {
+    const auto part = [argb](int shift) { return ((argb >> shift & 0xff) * 2 / 5) << shift; };
+    return 0xff000000 | part(16) | part(8) | part(0);
+}
 
 } // namespace
 
@@ -68,32 +77,30 @@ void AirspaceRenderer::render2D(const IChartElement* element, Map2D* map, int in
         addBand(mesh_, thinned_, airspace.excludes ? -band : band, withAlpha(argb, 0.5), withAlpha(argb, 0.12), view);
     if (selected)
         addStroke(mesh_, thinned_, {2.6f * width, selectionColor, true, 0.0f, 0.0f}, view);
+    else
+        addStroke(mesh_, thinned_, {width + 2.0f * pixelsOf(*map, rimWidth), rimColor, true, 0.0f, 0.0f}, view);
     addStroke(mesh_, thinned_, {width, argb, true, 0.0f, 0.0f}, view);
     drawShapes(*map, mesh_);
     if (!selected)
         addClassLabel(airspace, *map, index, affine);
 }
 
-/// In the middle of airspaces that are large enough to hold it.
+/// Below the northernmost corner of airspaces that are large enough: those inside of each other keep their labels
+/// apart.
 void AirspaceRenderer::addClassLabel(const AirspaceElement& airspace, Map2D& map, int index, const MapAffine& affine) {
     const PointBounds& bounds = airspace.getBounds();
     if (map.getViewArea() > largestLabelArea || !bounds.isArea)
         return;
     const double pixels = std::sqrt(bounds.areaSquareMetres) * affine.getPixelsPerMetre();
-    if (pixels < leastLabelled || pixels > mostLabelled)
+    if (pixels < leastLabelled)
         return;
-    ChartPosition middle;
-    for (const ChartPosition& vertex : airspace.vertices) {
-        middle.longitude += Angle180(vertex.longitude - airspace.vertices[0].longitude);
-        middle.latitude += vertex.latitude - airspace.vertices[0].latitude;
-    }
-    const auto count = static_cast<double>(airspace.vertices.size());
-    middle = ChartPosition(airspace.vertices[0].longitude + middle.longitude / count,
-                           airspace.vertices[0].latitude + middle.latitude / count);
+    const auto north =
+        std::max_element(airspace.vertices.begin(), airspace.vertices.end(),
+                         [](const ChartPosition& a, const ChartPosition& b) { return a.latitude < b.latitude; });
     const AirspaceStyle& style = airspaceStyle(airspace.airspaceClass);
-    addLabel(map, index, middle, 1.0,
-             {airspace.airspaceClass + "  " + airspaceLimits(airspace, map.isMetric()),
-              irr::video::SColor(style.argb | 0xff000000), irr::video::SColor(0xff14181d), labelScale, 90.0, false});
+    addLabel(map, index, *north, 2.0 * pixelsOf(map, bandWidth),
+             {airspace.airspaceClass + "  " + airspaceLimits(airspace, map.isMetric()), labelColor,
+              irr::video::SColor(darkened(style.argb)), labelScale, -90.0, false});
 }
 
 bool AirspaceRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,

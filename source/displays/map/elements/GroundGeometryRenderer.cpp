@@ -1,6 +1,7 @@
 #include "displays/map/elements/GroundGeometryRenderer.h"
 
 #include "chart/elements/GroundGeometryElement.h"
+#include "chart/geodesy/Angles.h"
 #include "displays/map/Map2D.h"
 #include "displays/map/elements/MapDrawing.h"
 #include "displays/map/elements/RendererParts.h"
@@ -14,6 +15,11 @@ namespace skyvane {
 namespace {
 
 constexpr double fineStep = 0.6, leastPolygonPixels = 2.5, metresPerStep = 0.5;
+
+constexpr double largestNameArea = 1.5, leastNamedPixels = 14.0;
+constexpr uint8_t lakeFeature = 13;
+constexpr float nameScale = 0.65f;
+const irr::video::SColor nameColor(0xffffffff), townBackground(0xb04a3a12), waterBackground(0xb0163a66);
 
 /// The longer side of the rectangle round a path.
 double extentOf(const ShapePath& path) {
@@ -60,6 +66,20 @@ void GroundGeometryRenderer::render2D(const IChartElement* element, Map2D* map, 
     if (shown > 0.0)
         addGroundLine(mesh_, thinned_, style, shown, isPolygon, view);
     drawShapes(*map, mesh_);
+    if (!selected && isPolygon && !ground.name.empty() && map->getViewArea() <= largestNameArea)
+        addName(ground, *map, index, extentOf(thinned_));
+}
+
+/// Of towns and lakes that can be seen as areas.
+void GroundGeometryRenderer::addName(const GroundGeometryElement& ground, Map2D& map, int index, double pixels) {
+    const bool isWater = ground.feature == lakeFeature;
+    if (pixels < leastNamedPixels || (!isWater && ground.feature != GroundGeometryElement::OtherFeature))
+        return;
+    const ChartPosition &nw = ground.getBounds().northWest, &se = ground.getBounds().southEast;
+    const ChartPosition middle(nw.longitude + 0.5 * Angle180(se.longitude - nw.longitude),
+                               0.5 * (nw.latitude + se.latitude));
+    addLabel(map, index, middle, 1.0,
+             {ground.name, nameColor, isWater ? waterBackground : townBackground, nameScale, 90.0, false});
 }
 
 bool GroundGeometryRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,

@@ -6,6 +6,7 @@
 
 namespace skyvane {
 
+class GroundGeometryElement;
 struct RendererParts;
 
 /// Roads, water, borders, and what lies on the ground of airports.
@@ -24,6 +25,8 @@ public:
     bool OnFrame2D() override { return fills_.goOn(); }
 
 private:
+    void addName(const GroundGeometryElement& ground, Map2D& map, int index, double pixels);
+
     RendererParts& parts_;
     GroundFills fills_;
     ShapeMesh mesh_;

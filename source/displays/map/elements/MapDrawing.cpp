@@ -58,17 +58,23 @@ MapFilter filterOf(const Map2D& map, int index) {
     return {map.getViewArea(), map.getSwitches(), map.isProcedureTarget(index)};
 }
 
-void drawSymbol(Map2D& map, const ElementSymbol& symbol, const ShapePoint& middle, double edge,
-                const SymbolColors& colors, double turnDegrees) {
+void drawTurnedSymbol(Map2D& map, const ElementSymbol& symbol, const ShapePoint& middle, double edge,
+                      const SymbolColors& colors, double turnDegrees) {
     Drawer2D& drawer = *map.getDrawer();
     const int size = std::max(1, static_cast<int>(std::lround(edge)));
     const auto draw = [&](irr::video::ITexture* texture, irr::video::SColor color) {
         drawer.setColor(color);
         drawer.Draw(texture, toPosition(middle), {size, size}, static_cast<float>(turnDegrees), {0.5f, 0.5f});
     };
-    draw(symbol.halo, colors.halo);
+    if (symbol.halo)
+        draw(symbol.halo, colors.halo);
     draw(symbol.shape, colors.shape);
     drawer.setColor(irr::video::SColor(0xffffffff));
+}
+
+void drawSymbol(Map2D& map, const ElementSymbol& symbol, const ShapePoint& middle, double edge,
+                const SymbolColors& colors, bool intoRTT) {
+    drawTurnedSymbol(map, symbol, middle, edge, colors, intoRTT ? -map.getTopTrack() : 0.0);
 }
 
 void drawSelectionRing(Map2D& map, const ShapePoint& middle, double edge) {
@@ -94,7 +100,7 @@ void addLabel(Map2D& map, int index, const ChartPosition& position, double symbo
     if (label.text.empty() || map.handleOneTimeRenderLock(index))
         return;
     const auto edge = static_cast<float>(symbolEdge);
-    map.addRGDText(index, label.text, position, label.angleDegrees, label.color, label.scale, {edge, edge},
+    map.addRGDText(index, label.text, position, label.angleDegrees, label.color, labelUnit * label.scale, {edge, edge},
                    label.background, label.isImportant);
 }
 

@@ -22,13 +22,19 @@ float pixelsOf(const Map2D& map, double thousandths);
 MapFilter filterOf(const Map2D& map, int index);
 
 /// A symbol with its middle on a place, `edge` pixels wide, turned counter-clockwise.
+void drawTurnedSymbol(Map2D& map, const ElementSymbol& symbol, const ShapePoint& middle, double edge,
+                      const SymbolColors& colors, double turnDegrees);
+/// The same upright on the glass: in tiles as the map is turned now.
 void drawSymbol(Map2D& map, const ElementSymbol& symbol, const ShapePoint& middle, double edge,
-                const SymbolColors& colors, double turnDegrees = 0.0);
+                const SymbolColors& colors, bool intoRTT);
 /// The ring around a selected symbol.
 void drawSelectionRing(Map2D& map, const ShapePoint& middle, double edge);
 constexpr uint32_t selectionColor = 0xffffe11f;
 /// Draws it on the map and empties it.
 void drawShapes(Map2D& map, ShapeMesh& mesh);
+
+/// The size of labels of scale 1, as a scale of the panel's font: the map holds more text than a dial.
+constexpr float labelUnit = 0.85f;
 
 /// A label around a symbol, once in a rebuild; nothing for an empty text or a selected element, which has its own.
 struct ElementLabel {

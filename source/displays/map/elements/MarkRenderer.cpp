@@ -25,7 +25,7 @@ void MarkRenderer::render2D(const IChartElement* element, Map2D* map, int index,
     if (!map->isInside(mark.position, edge, edge, intoRTT))
         return;
     const ShapePoint middle = affineOf(*map, intoRTT).toPixels(mark.position);
-    drawSymbol(*map, {parts_.textures.getPicture("mark"), nullptr}, middle, edge, {});
+    drawSymbol(*map, {parts_.textures.getPicture("mark"), nullptr}, middle, edge, {}, intoRTT);
     if (selected)
         return drawSelectionRing(*map, middle, edge);
     const bool isTarget = map->isProcedureTarget(index);

@@ -26,7 +26,7 @@ void NDBRenderer::render2D(const IChartElement* element, Map2D* map, int index, 
     if (!map->isInside(ndb.position, edge, edge, intoRTT))
         return;
     const ShapePoint middle = affineOf(*map, intoRTT).toPixels(ndb.position);
-    drawSymbol(*map, parts_.textures.get("ndb"), middle, edge, {ndbColor, darkHalo});
+    drawSymbol(*map, parts_.textures.get("ndb"), middle, edge, {ndbColor, darkHalo}, intoRTT);
     if (selected)
         return drawSelectionRing(*map, middle, edge);
     const bool tellsFrequency = map->getViewArea() <= largestFrequencyArea && ndb.frequencyKilohertz != 0;

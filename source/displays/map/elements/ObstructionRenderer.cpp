@@ -17,6 +17,7 @@ namespace {
 
 constexpr int tallFeet = 500;
 const irr::video::SColor plainColor(0xffffb000), labelColor(0xffffffff), labelBackground(0xff30261a);
+constexpr double rimShare = 1.16;
 constexpr double cellShare = 0.55; ///< Of a symbol: closer ones are one.
 constexpr double largestLabelArea = 0.3;
 constexpr float labelScale = 0.6f;
@@ -56,8 +57,9 @@ void ObstructionRenderer::render2D(const IChartElement* element, Map2D* map, int
     const MapAffine affine = affineOf(*map, intoRTT);
     const ShapePoint middle = affine.toPixels(obstruction.position);
     if (selected) {
-        drawObstruction(*map, middle, obstruction.altitudeMslFeet,
-                        {obstruction.heightAglFeet >= tallFeet, obstruction.isGroup, obstruction.hasKnownLighting});
+        drawObstruction(
+            *map, middle, obstruction.altitudeMslFeet,
+            {obstruction.heightAglFeet >= tallFeet, obstruction.isGroup, obstruction.hasKnownLighting, intoRTT});
         return drawSelectionRing(*map, middle, edge);
     }
     ObstructionGroups& groups = groups_[map];
@@ -74,8 +76,9 @@ void ObstructionRenderer::OnPostPriority2D(Map2D* map, int priority) {
         return;
     for (const ObstructionGroups::Group& group : found->second.getGroups()) {
         const auto& members = group.members;
-        drawObstruction(*map, {members.getPosition().X, members.getPosition().Y}, members.getHighestMslFeet(),
-                        {members.getHighestAglFeet() >= tallFeet, members.getCount() > 1, group.isLit});
+        drawObstruction(
+            *map, {members.getPosition().X, members.getPosition().Y}, members.getHighestMslFeet(),
+            {members.getHighestAglFeet() >= tallFeet, members.getCount() > 1, group.isLit, found->second.isIntoRTT});
         if (map->getViewArea() <= largestLabelArea)
             addLabel(*map, group.index, group.position, 0.7 * map->getElementSizePx(),
                      {toText(displayedAltitude(members.getHighestMslFeet(), map->isMetric())), labelColor,
@@ -84,9 +87,13 @@ void ObstructionRenderer::OnPostPriority2D(Map2D* map, int priority) {
     groups_.erase(found);
 }
 
+/// Dark around it, and light around that: red shows on red ground, too.
 void ObstructionRenderer::drawObstruction(Map2D& map, const ShapePoint& middle, int topFeet, const Shape& shape) {
-    drawSymbol(map, parts_.textures.get(symbolOf(shape.isTall, shape.isGroup, shape.isLit)), middle,
-               map.getElementSizePx(), {calcColor(map.getAltitude() - topFeet * MetresPerFoot), darkHalo});
+    const ElementSymbol& symbol = parts_.textures.get(symbolOf(shape.isTall, shape.isGroup, shape.isLit));
+    const double edge = map.getElementSizePx();
+    drawSymbol(map, {symbol.halo, nullptr}, middle, rimShare * edge, {lightHalo, lightHalo}, shape.intoRTT);
+    drawSymbol(map, symbol, middle, edge, {calcColor(map.getAltitude() - topFeet * MetresPerFoot), darkHalo},
+               shape.intoRTT);
 }
 
 bool ObstructionRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,

@@ -36,6 +36,7 @@ private:
         bool isTall;
         bool isGroup;
         bool isLit;
+        bool intoRTT;
     };
     void drawObstruction(Map2D& map, const ShapePoint& middle, int topFeet, const Shape& shape);
 

@@ -11,7 +11,7 @@ namespace skyvane {
 
 namespace {
 
-const irr::video::SColor vorColor(0xff0000ff), roseColor(0xd00000ff), labelColor(0xffffffff),
+const irr::video::SColor vorColor(0xff0000ff), roseColor(0xe00000ff), roseHalo(0x70ffffff), labelColor(0xffffffff),
     labelBackground(0xff0000a8);
 constexpr double largestRoseArea = 2.5, largestFrequencyArea = 1.0;
 constexpr double roseSize = 3.6; ///< Times the symbol.
@@ -54,10 +54,9 @@ void VORRenderer::render2D(const IChartElement* element, Map2D* map, int index, 
     if (map->getViewArea() <= largestRoseArea && vor.vorType != VORElement::Tacan) {
         const bool isKnown = vor.magneticVariationDegrees > UnknownVariationBelow;
         const double north = affine.getTurnDegrees() + (isKnown ? vor.magneticVariationDegrees : 0.0);
-        drawSymbol(*map, {parts_.textures.getPicture("vor_rose"), nullptr}, middle, reach, {roseColor, lightHalo},
-                   -north);
+        drawTurnedSymbol(*map, parts_.textures.get("vor_rose"), middle, reach, {roseColor, roseHalo}, -north);
     }
-    drawSymbol(*map, parts_.textures.get(symbolOf(vor)), middle, edge, {vorColor, lightHalo});
+    drawSymbol(*map, parts_.textures.get(symbolOf(vor)), middle, edge, {vorColor, lightHalo}, intoRTT);
     if (selected)
         return drawSelectionRing(*map, middle, edge);
     const std::string frequency = map->getViewArea() <= largestFrequencyArea ? "  " + frequencyText(vor) : "";

@@ -36,7 +36,7 @@ void WaypointRenderer::render2D(const IChartElement* element, Map2D* map, int in
         return;
     const ShapePoint middle = affineOf(*map, intoRTT).toPixels(waypoint.position);
     const irr::video::SColor color = waypoint.isReportingPoint ? reportingColor : fixColor;
-    drawSymbol(*map, parts_.textures.get(symbolOf(waypoint)), middle, edge, {color, darkHalo});
+    drawSymbol(*map, parts_.textures.get(symbolOf(waypoint)), middle, edge, {color, darkHalo}, intoRTT);
     if (selected)
         return drawSelectionRing(*map, middle, edge);
     const bool isTarget = map->isProcedureTarget(index);
