@@ -21,6 +21,7 @@ using Place = irr::core::vector3d<double>;
 constexpr double FarMetres = 64820.0;
 constexpr double LeastAltitudeChange = 5.0;
 constexpr double OnLineDegrees = 1.0;
+constexpr double SamePlaceMetres = 1.0;
 
 Place unit(double courseDegrees) {
     return {std::sin(courseDegrees / DegreesPerRadian), 0.0, std::cos(courseDegrees / DegreesPerRadian)};
@@ -62,17 +63,23 @@ Place shiftOnto(const Place& place, const Place& along, const Place& onLine, con
     return along * ((gap.X * lineDirection.Z - gap.Z * lineDirection.X) / across);
 }
 
-} // namespace
+/// Whether a path still leads from its beginning onto the line: the cleansing takes out what can't be flown, and that
+/// may be either end.
+bool isWhole(const CourseList& list, const ChartPosition& start, double flownCourse) {
+    return list.size() >= 2 && calcDistance2(list.front().position, start) < SamePlaceMetres &&
+           std::fabs(Angle180(list.back().course - flownCourse)) <= OnLineDegrees;
+}
 
-CourseList calculateInterception(ChartPosition pos, double course, double alt, ChartPosition fix, double radial,
-                                 double endAlt, double rate, double speed, bool towards, double offset,
-                                 double stepDegrees, bool transition) {
-    CourseList list;
-    if (calcDistance2(pos, fix) > FarMetres) {
-        list = approachFromFar(pos, course, alt, fix, rate, speed, stepDegrees);
-        pos = list.back().position;
-    }
-    const double lineCourse = Angle0to360(towards ? radial : radial + 180.0);
+/// The way to the line behind what leads to its start, cleansed; `lineCourse` is against the flight.
+struct LineIntercept {
+    ChartPosition fix;
+    double lineCourse, alt, rate, speed, offset, stepDegrees;
+    bool transition;
+
+    CourseList fly(CourseList list, const ChartPosition& pos, double course) const;
+};
+
+CourseList LineIntercept::fly(CourseList list, const ChartPosition& pos, double course) const {
     const double heading = meetingHeading(-ChartPosition2Vector3df64(pos, fix, 0.0), lineCourse, offset);
 
     const float height = static_cast<float>(alt);
@@ -91,9 +98,27 @@ CourseList calculateInterception(ChartPosition pos, double course, double alt, C
         list.push_back(moved);
     }
     courseListCleansing(list, 1.5 * stepDegrees);
-    const double flownCourse = lineCourse + 180.0;
-    if (list.size() < 2 || std::fabs(Angle180(list.back().course - flownCourse)) > OnLineDegrees)
-        return calcPerfectEntry(pos, alt, course, fix, endAlt, flownCourse, speed,
+    return list;
+}
+
+} // namespace
+
+CourseList calculateInterception(ChartPosition pos, double course, double alt, ChartPosition fix, double radial,
+                                 double endAlt, double rate, double speed, bool towards, double offset,
+                                 double stepDegrees, bool transition) {
+    const ChartPosition start = pos;
+    CourseList before;
+    if (calcDistance2(pos, fix) > FarMetres) {
+        before = approachFromFar(pos, course, alt, fix, rate, speed, stepDegrees);
+        pos = before.back().position;
+    }
+    const double lineCourse = Angle0to360(towards ? radial : radial + 180.0), flownCourse = lineCourse + 180.0;
+    const LineIntercept intercept{fix, lineCourse, alt, rate, speed, offset, stepDegrees, transition};
+    CourseList list = intercept.fly(before, pos, course);
+    if (!before.empty() && !isWhole(list, start, flownCourse))
+        list = intercept.fly(before, pos, before.back().course); // on which it arrives
+    if (!isWhole(list, start, flownCourse))
+        return calcPerfectEntry(start, alt, course, fix, endAlt, flownCourse, speed,
                                 rate); // too close for the turns to fit
     applyAltitudeChange(list, endAlt - alt, LeastAltitudeChange);
     return list;

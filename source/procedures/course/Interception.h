@@ -10,8 +10,10 @@ namespace skyvane {
 /// Courses, the radial, the offset (the angle at which the line is met, 25 at least) and the step of turns in degrees,
 /// altitudes in metres, the rate in degrees per second, the speed in knots. The radial is the direction in which the
 /// line leaves the fix: `towards` flies inbound on it, on the course radial + 180, otherwise outbound, on the radial.
-/// From more than 35 nautical miles away it first flies to that distance of the fix. Too close for the turns to fit, it
-/// flies the shortest way to the fix on the course of the line. A pure function that never fails, for any thread.
+/// From more than 35 nautical miles away it first flies to that distance of the fix: on the
+/// course of the start at the interception's beginning, or on the one on which it arrives where that makes no path. Too
+/// close for the turns to fit, it flies the shortest way to the fix on the course of the line. A pure function that
+/// never fails, for any thread.
 CourseList calculateInterception(ChartPosition pos, double course, double alt, ChartPosition fix, double radial,
                                  double endAlt, double rate, double speed, bool towards, double offset,
                                  double stepDegrees, bool transition);

@@ -216,6 +216,21 @@ TEST(Interception, endsOnTheRadialThroughTheFix) {
     }
 }
 
+TEST(Interception, IsOnePathFromTheAircraftAlsoFromFarAway) {
+    Flights flights;
+    for (int i = 0; i < 500; ++i) {
+        const ChartPosition fix = flights.position(), start = flights.near(fix, 66000.0, 180000.0);
+        const double radial = flights.course(), offset = flights.between(25.0, 90.0);
+        const CourseList list = calculateInterception(start, flights.course(), 900.0, fix, radial, 1200.0, 3.0, 110.0,
+                                                      i % 2 == 0, offset, 15.0, false);
+        ASSERT_GT(list.size(), 4u) << i;
+        EXPECT_LT(calcDistance2(list.front().position, start), 1.0) << i;
+        const double flown = i % 2 == 0 ? radial + 180.0 : radial;
+        EXPECT_LT(courseError(list.back().course, flown), 1.0) << i;
+        expectSmooth(list, 23.0, i); // nothing that can't be flown
+    }
+}
+
 TEST(CourseCleansing, removesPairsThatDisagree) {
     CourseList line = calcLine({9.0, 0.0}, {10.0, 0.0}, 0.0, 0.0, 2, false);
     const std::size_t straight = line.size();
