@@ -29,7 +29,8 @@ TEST(CardParser, ReadsEveryKindOfLine) {
                                   "traffic 42.1 1.4 altitude 4000ft heading 90 speed 110kt turn -3 descend 300ftmin\n"
                                   "wind 240 15kt\nstand 2min\ntakeoff\nspeed 90kt\nclimb 500ftmin to 5000ft\n"
                                   "turn left standard to 090\nturn right bank 30 by 720\nlevel 60s\nslip -5deg 10s\n"
-                                  "direct 42.5 1.25\ndescend 2.5ms to 1000m\nland\nstand 1s\ntakeoff\r\n",
+                                  "direct 42.5 1.25\nfollow 42.4 1.3 altitude 900m\nfollow 42.3 1.3\ndescend 2.5ms to "
+                                  "1000m\nland\nstand 1s\ntakeoff\r\n",
                                   card);
     ASSERT_TRUE(errors.empty()) << errors.front().line << errors.front().message;
     EXPECT_FALSE(card.startInAir);
@@ -39,7 +40,7 @@ TEST(CardParser, ReadsEveryKindOfLine) {
     EXPECT_DOUBLE_EQ(card.runway.glideDegrees, 4.0);
     EXPECT_DOUBLE_EQ(card.traffic.at(0).turnDegreesPerSecond, -3.0);
     EXPECT_NEAR(card.traffic.at(0).climbMetresPerSecond, -1.524, 1e-9);
-    ASSERT_EQ(card.steps.size(), 14u);
+    ASSERT_EQ(card.steps.size(), 16u);
     EXPECT_DOUBLE_EQ(card.steps[1].seconds, 120.0);
     EXPECT_NEAR(card.steps[4].climbMetresPerSecond, 2.54, 1e-9);
     EXPECT_FALSE(card.steps[5].turnRight);
@@ -48,6 +49,9 @@ TEST(CardParser, ReadsEveryKindOfLine) {
     EXPECT_DOUBLE_EQ(card.steps[6].angleDegrees, 720.0);
     EXPECT_DOUBLE_EQ(card.steps[8].angleDegrees, -5.0);
     EXPECT_EQ(card.steps[10].line, 17);
+    EXPECT_FALSE(card.steps[10].keepAltitude);
+    EXPECT_DOUBLE_EQ(card.steps[10].altitudeMetres, 900.0);
+    EXPECT_TRUE(card.steps[11].keepAltitude);
 }
 
 TEST(CardParser, TellsWhatIsWrongWithALine) {

@@ -75,6 +75,31 @@ TEST(ScriptedFlight, DirectReachesThePointInACrossWind) {
     EXPECT_NEAR(states.back().longitudeDegrees, -28.4, 0.003);
 }
 
+TEST(ScriptedFlight, FollowsAPathOfWayPointsInACrossWind) {
+    // Up, a half circle of 1,300 m to the right in steps of 15 degrees, and down again.
+    const double radius = 1300.0, north = 111070.0, east = 82700.0; // metres per degree here
+    std::string lines = "wind 270 15kt\nfollow 42.1 -28.5 altitude 4000ft\n";
+    for (int step = 1; step <= 12; ++step) {
+        const double angle = step * 15.0 * M_PI / 180.0;
+        lines += "follow " + std::to_string(42.1 + radius * std::sin(angle) / north) + " " +
+                 std::to_string(-28.5 + radius * (1.0 - std::cos(angle)) / east) + "\n";
+    }
+    const auto states = cruise(lines + "follow 42.0 -28.46856 altitude 3200ft\n");
+    double widest = 0.0;
+    bool wasHigh = false;
+    for (const FlightState& state : states) {
+        const double x = (state.longitudeDegrees + 28.5) * east, y = (state.latitudeDegrees - 42.1) * north;
+        const double beside = y > 0.0 ? std::hypot(x - radius, y) - radius : x < radius ? x : x - 2.0 * radius;
+        if (state.timeSeconds > 40.0) // it began 10 degrees off
+            widest = std::max(widest, std::abs(beside));
+        wasHigh = wasHigh || std::abs(state.altitudeMetres - 1219.2) < 3.0;
+    }
+    EXPECT_LT(widest, 60.0);
+    EXPECT_TRUE(wasHigh);
+    EXPECT_NEAR(states.back().latitudeDegrees, 42.0, 0.001);
+    EXPECT_NEAR(states.back().altitudeMetres, 3200.0 * 0.3048, 8.0);
+}
+
 class WholeFlight : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(WholeFlight, TakesOffAndLandsOnTheRunway) {

@@ -159,6 +159,16 @@ void readDirect(Reading& reading, CardLine& line) {
     line.takePoint(step.point.latitudeDegrees, step.point.longitudeDegrees);
 }
 
+void readFollow(Reading& reading, CardLine& line) {
+    if (!inAir(reading, line))
+        return;
+    CardStep& step = reading.add(CardStep::Kind::Follow);
+    line.takePoint(step.point.latitudeDegrees, step.point.longitudeDegrees);
+    step.keepAltitude = !line.takeIf("altitude");
+    if (!step.keepAltitude)
+        step.altitudeMetres = line.takeMetres("altitude");
+}
+
 void readLand(Reading& reading, CardLine& line) {
     if (!inAir(reading, line))
         return;
@@ -183,10 +193,10 @@ using Reader = void (*)(Reading&, CardLine&);
 
 Reader readerOf(const std::string& word) {
     static const std::unordered_map<std::string, Reader> readers{
-        {"start", readStart}, {"time", readTime},       {"runway", readRunway}, {"traffic", readTraffic},
-        {"stand", readStand}, {"takeoff", readTakeOff}, {"climb", readClimb},   {"descend", readClimb},
-        {"turn", readTurn},   {"level", readLevel},     {"slip", readSlip},     {"direct", readDirect},
-        {"land", readLand},   {"speed", readSpeed},     {"wind", readWind}};
+        {"start", readStart},   {"time", readTime},       {"runway", readRunway}, {"traffic", readTraffic},
+        {"stand", readStand},   {"takeoff", readTakeOff}, {"climb", readClimb},   {"descend", readClimb},
+        {"turn", readTurn},     {"level", readLevel},     {"slip", readSlip},     {"direct", readDirect},
+        {"follow", readFollow}, {"land", readLand},       {"speed", readSpeed},   {"wind", readWind}};
     const auto found = readers.find(word);
     return found == readers.end() ? nullptr : found->second;
 }

@@ -9,19 +9,20 @@ namespace skyvane {
 
 /// One line of a card that the aircraft flies or that changes what is asked of it.
 struct CardStep {
-    enum class Kind { Stand, TakeOff, Climb, Turn, Level, Slip, Direct, Land, Speed, Wind };
+    enum class Kind { Stand, TakeOff, Climb, Turn, Level, Slip, Direct, Follow, Land, Speed, Wind };
 
     Kind kind = Kind::Level;
     int line = 0;
     double seconds = 0.0;              ///< Stand, Level, Slip
-    double altitudeMetres = 0.0;       ///< Climb (and descend)
+    double altitudeMetres = 0.0;       ///< Climb (and descend), Follow
+    bool keepAltitude = false;         ///< Follow: at the altitude that is held
     double climbMetresPerSecond = 0.0; ///< Climb (and descend), positive
     bool turnRight = false;            ///< Turn
     double bankDegrees = 0.0;          ///< Turn: 0 for a standard-rate turn
     bool turnByAngle = false;          ///< Turn: by `angleDegrees`, otherwise to the heading `angleDegrees`
     double angleDegrees = 0.0;         ///< Turn; Slip: where the ball stands, right positive; Wind: where it comes from
     double speedKnots = 0.0;           ///< Speed, Wind
-    GroundPoint point;                 ///< Direct
+    GroundPoint point;                 ///< Direct, Follow
 };
 
 /// The runway to which landings and landing beams refer.

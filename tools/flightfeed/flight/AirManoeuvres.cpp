@@ -155,6 +155,8 @@ std::unique_ptr<IManoeuvre> makeManoeuvre(const FlightCard& card, const CardStep
     case CardStep::Kind::Speed:
     case CardStep::Kind::Wind:
         return std::make_unique<Ask>(step);
+    case CardStep::Kind::Follow:
+        return makeRouteManoeuvre(card, step);
     default:
         return makeRunwayManoeuvre(card, step);
     }
