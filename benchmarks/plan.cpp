@@ -2,13 +2,16 @@
 #include "chart/geodesy/LocalFrame.h"
 #include "procedures/course/CourseLines.h"
 #include "procedures/direct/DirectProcedure.h"
+#include "procedures/highway/HighwayBuilder.h"
 #include "procedures/holding/HoldingProcedure.h"
 #include "procedures/plan/FlightPlan.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <thread>
 #include <vector>
 
 namespace skyvane {
@@ -86,11 +89,35 @@ double update(bool smoke) {
     return sum > 0.0 ? ratio : std::nan("");
 }
 
+/// The longest that a frame waits for the highway while its thread is at work all the time: each frame tells the
+/// aircraft's place, every tenth one brings another path of 5,000 elements. In periods of a frame.
+double highwayFrames(bool smoke) {
+    const CourseList path = longPath();
+    HighwayBuilder highway;
+    if (!highway.start())
+        return std::nan("");
+    HighwayMesh mesh;
+    HighwayBuilder::Aircraft aircraft{true, {-110.0, 40.05}, 1010.0, {}};
+    double longest = 0.0;
+    int meshes = 0;
+    for (int frame = 0; frame < (smoke ? 30 : 1000); ++frame) {
+        longest = std::max(longest, secondsOf([&] {
+                               if (frame % 10 == 0)
+                                   highway.setPath(path);
+                               aircraft.position.longitude += 0.1; // worn each time
+                               meshes += highway.exchange(aircraft, mesh) ? 1 : 0;
+                           }));
+        std::this_thread::sleep_for(std::chrono::microseconds(frame % 3 * 500));
+    }
+    return meshes > 0 ? longest / FrameSeconds : std::nan("");
+}
+
 } // namespace
 
 std::vector<Bench> planBenches() {
     return {{"plan.recalculate-frames", Bench::Bound::AtMost, 1, recalculateFrames},
-            {"plan.update", Bench::Bound::AtMost, 2, update}};
+            {"plan.update", Bench::Bound::AtMost, 2, update},
+            {"plan.highway-frames", Bench::Bound::AtMost, 0.5, highwayFrames}};
 }
 
 } // namespace skyvane
