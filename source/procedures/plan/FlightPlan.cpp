@@ -10,6 +10,12 @@ IProcedure* FlightPlan::get(int index) const {
     return index >= 0 && index < getCount() ? procedures_[static_cast<size_t>(index)].get() : nullptr;
 }
 
+int FlightPlan::find(const IProcedure* procedure) const {
+    const auto found = std::find_if(procedures_.begin(), procedures_.end(),
+                                    [procedure](const auto& each) { return each.get() == procedure; });
+    return found == procedures_.end() ? -1 : static_cast<int>(found - procedures_.begin());
+}
+
 void FlightPlan::setCurrent(int index) {
     if (get(index))
         current_ = static_cast<size_t>(index);

@@ -28,6 +28,8 @@ public:
     bool isEmpty() const { return procedures_.empty(); }
     /// Null for an index out of range.
     IProcedure* get(int index) const;
+    /// -1 for one that the plan doesn't have.
+    int find(const IProcedure* procedure) const;
     /// A NullProcedure for an empty plan. Valid until the plan changes.
     IProcedure* getCurrent() { return isEmpty() ? &null_ : procedures_[current_].get(); }
     /// 0 for an empty plan.
