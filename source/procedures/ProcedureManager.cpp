@@ -114,6 +114,24 @@ void ProcedureManager::moveCurrentProcedureBackwards() {
         notifyChanged();
 }
 
+bool ProcedureManager::changeProcedure(const IProcedure* procedure, const std::function<void()>& change) {
+    const int index = plan_.find(procedure);
+    if (index < 0)
+        return false;
+    const IProcedure* flown = plan_.getCurrent();
+    plan_.setCurrent(index);
+    change();
+    if (flown != procedure)
+        plan_.setCurrent(plan_.find(flown));
+    notifyChanged();
+    return true;
+}
+
+void ProcedureManager::repeatMessages() {
+    for (const auto& procedure : plan_.getProcedures())
+        procedure->repeatMessages();
+}
+
 /// What was drawn of the former plan isn't right any more: an empty plan takes the highway and the profile away.
 void ProcedureManager::notifyChanged() {
     pathChanged_ = true;
@@ -233,16 +251,17 @@ bool ProcedureManager::newProcedure(const IChartElement* element, int id, bool k
     return ChooseProcedureScreen(*context_, element, id, keepsProcedure).run();
 }
 
-void ProcedureManager::insertFlightPlan(const std::string& name) {
-    writePlan(plan_, saved_, name, context_->getCharts());
+void ProcedureManager::insertFlightPlan(IniFile& document, const std::string& name) {
+    writePlan(plan_, document, name, context_->getCharts());
 }
 
 bool ProcedureManager::retrieveFlightPlan(const std::string& name) {
     if (!saved_.isSectionAvailable(name))
         return false;
     PlanReading reading = readPlan(saved_, name, factories_, context_->getCharts());
-    tellLosses(reading.losses);
-    if (reading.procedures.empty() && !reading.losses.empty())
+    losses_ = std::move(reading.losses);
+    tellLosses();
+    if (reading.procedures.empty() && !losses_.empty())
         return false;
     plan_.replaceAll(std::move(reading.procedures));
     notifyChanged();
@@ -250,12 +269,12 @@ bool ProcedureManager::retrieveFlightPlan(const std::string& name) {
     return true;
 }
 
-void ProcedureManager::tellLosses(const std::vector<std::string>& losses) {
-    if (losses.empty())
+void ProcedureManager::tellLosses() {
+    if (losses_.empty())
         return;
-    for (const std::string& loss : losses)
+    for (const std::string& loss : losses_)
         logText("Flight plan: a procedure \"" + loss + "\" can't be flown.\n");
-    const int count = static_cast<int>(losses.size());
+    const int count = static_cast<int>(losses_.size());
     context_->setMessage(&saved_,
                          count == 1 ? "FLIGHT PLAN INCOMPLETE:\na procedure can't be flown"
                                     : "FLIGHT PLAN INCOMPLETE:\n" + toText(count) + " procedures can't be flown",

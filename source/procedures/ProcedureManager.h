@@ -7,6 +7,7 @@
 #include "procedures/plan/RouteProfile.h"
 #include "procedures/plan/SavedPlans.h"
 
+#include <functional>
 #include <irrlicht.h>
 #include <optional>
 #include <string>
@@ -51,6 +52,10 @@ public:
     void moveCurrentProcedureForwards();
     void moveCurrentProcedureBackwards();
 
+    /// Does something to a procedure as if it were the current one, as the operations above do. The one that is flown
+    /// stays the current one. False, and nothing is done, when the plan has no such procedure.
+    bool changeProcedure(const IProcedure* procedure, const std::function<void()>& change);
+
     IProcedure* getCurrentProcedure() { return plan_.getCurrent(); }
     int getCurrentProcedureIndex() const { return plan_.getCurrentIndex(); }
     const FlightPlan::Procedures& getProcedures() const { return plan_.getProcedures(); }
@@ -62,6 +67,8 @@ public:
     bool calculateCourseList();
     /// Every frame. The highway follows at most twice a second, and at once when forced.
     void Update(bool force);
+    /// What the procedures have to say stands on the displays again: for after a time without messages.
+    void repeatMessages();
 
     /// Asks the pilot for a destination and what to fly there, over the whole glass, and waits for it: true when a
     /// procedure went into the plan after the current one, and is current now. Begins with that element of the charts,
@@ -69,10 +76,14 @@ public:
     bool newProcedure(const IChartElement* element = nullptr, int id = 0, bool keepsProcedure = false);
 
     /// Stores the plan under that name in the document of saved plans.
-    void insertFlightPlan(const std::string& name);
+    void insertFlightPlan(const std::string& name) { insertFlightPlan(saved_, name); }
+    /// The same in another document.
+    void insertFlightPlan(IniFile& document, const std::string& name);
     /// The saved plan becomes the plan. False, and the plan stays, without one of that name, or when nothing of it can
     /// be flown. The pilot hears of what can't be.
     bool retrieveFlightPlan(const std::string& name);
+    /// What the last saved plan had that can't be flown.
+    const std::vector<std::string>& getLosses() const { return losses_; }
     /// False when data/fpl.ini can't be written.
     bool saveFlightPlans();
     IniFile& getSavedFlightPlans() { return saved_; }
@@ -97,7 +108,7 @@ private:
     void updateHighway(const FlightReadings& readings, bool force);
     void warnOfDestination(double altitudeMetres);
     void requestProfile();
-    void tellLosses(const std::vector<std::string>& losses);
+    void tellLosses();
 
     Context* context_;
     FlightPlan plan_;
@@ -113,6 +124,7 @@ private:
     int sideViewPoints_;
     irr::video::ITexture* sideTexture_ = nullptr; ///< The driver's.
     std::unique_ptr<RouteProfile> profile_;
+    std::vector<std::string> losses_;
 };
 
 } // namespace skyvane

@@ -121,7 +121,7 @@ public:
 
     /// Heading in degrees, altitude in metres. Until stopSimulation every default is the SimulatorSensor.
     void startSimulation(const ChartPosition& position, int heading, int altitude);
-    void stopSimulation() { simulating_ = false; }
+    void stopSimulation();
     bool isSimulationActive() const { return simulating_; }
 
     bool OnCalibrationButtonPressed();

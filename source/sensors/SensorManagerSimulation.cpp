@@ -55,4 +55,9 @@ void SensorManager::startSimulation(const ChartPosition& position, int heading, 
     host_->setMessage(&simulating_, "Warning: Simulation active", MESSAGE_RED, WarningMilliseconds);
 }
 
+void SensorManager::stopSimulation() {
+    simulating_ = false;
+    host_->removeMessage(&simulating_);
+}
+
 } // namespace skyvane

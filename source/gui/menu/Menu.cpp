@@ -7,9 +7,12 @@
 #include "displays/setup/PresetDialog.h"
 #include "gui/font/FlexibleFont.h"
 #include "gui/menu/AltimeterWindow.h"
+#include "gui/menu/FlightPlanWindow.h"
 #include "gui/menu/ForwarderWindow.h"
 #include "gui/menu/MenuColumn.h"
+#include "gui/menu/PositionSimulator.h"
 #include "gui/skin/Skin.h"
+#include "sensors/SensorManager.h"
 
 #include <algorithm>
 
@@ -35,6 +38,12 @@ Menu::~Menu() {
 void Menu::OnPageChange() {
     PanelManager* panels = context_->getPanelManager();
     bar_.showPage(panels->getCurrentPage(), panels->getPageCount());
+    bar_.showSimulation(context_->getSensorManager()->isSimulationActive());
+}
+
+void Menu::OnProcedureChanged() {
+    if (window_)
+        window_->OnProcedureChanged();
 }
 
 void Menu::render(Rect) {
@@ -81,6 +90,16 @@ void Menu::hideGUIWindowsExcept(irr::gui::IGUIWindow* kept, const Rect& room) {
 void Menu::showAltimeterSettings() {
     hideMenuWindows();
     show(std::make_unique<AltimeterWindow>(context_));
+}
+
+void Menu::showFlightPlan() {
+    hideMenuWindows();
+    show(std::make_unique<FlightPlanWindow>(context_, plannedSpeed_));
+}
+
+void Menu::showSimulator() {
+    hideMenuWindows();
+    show(std::make_unique<PositionSimulator>(context_));
 }
 
 void Menu::showForwarders() {

@@ -4,6 +4,7 @@
 #include "gui/menu/MenuBar.h"
 
 #include <memory>
+#include <string>
 
 namespace skyvane {
 
@@ -20,6 +21,7 @@ public:
     ~Menu() override;
 
     void OnPageChange() override;
+    void OnProcedureChanged() override;
     /// Draws nothing; brings what the rows and windows show up to date. Once a frame.
     void render(irr::core::rect<int> screen) override;
     /// False when the event was the menu's. The menu may be gone then, replaced by another.
@@ -38,6 +40,8 @@ public:
     void hideGUIWindowsExcept(irr::gui::IGUIWindow* kept, const irr::core::rect<int>& room);
     bool isOpen() const { return column_ != nullptr; }
     void showAltimeterSettings();
+    void showFlightPlan();
+    void showSimulator();
     void showForwarders();
     /// The window of the presets for maps; false hides it.
     void forceShowOptimizedSettings(bool show);
@@ -58,6 +62,7 @@ private:
     MenuBar bar_;
     std::unique_ptr<MenuColumn> column_;    ///< While it is open.
     std::unique_ptr<PresetDialog> presets_; ///< Null until it is asked for.
+    std::wstring plannedSpeed_;             ///< That the pilot has typed into the flight plan's window.
     std::unique_ptr<MenuWindow> window_;    ///< The one that is open; a closed one goes with the next event.
 };
 

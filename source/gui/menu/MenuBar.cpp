@@ -9,6 +9,8 @@ namespace skyvane {
 namespace {
 
 using Rect = irr::core::rect<irr::s32>;
+/// As the displays mark a simulated value.
+const irr::video::SColor simulationBlue(0xff4fc3ff);
 
 Rect barRect(const ScreenMetrics& metrics) {
     const int height = static_cast<int>(metrics.height);
@@ -60,8 +62,25 @@ void MenuBar::showPage(int page, int pageCount) {
         return;
     page_ = page;
     pageCount_ = pageCount;
-    const irr::core::stringw text =
-        irr::core::stringw(L"Page ") + irr::core::stringw(page + 1) + L" / " + irr::core::stringw(pageCount);
+    showText();
+}
+
+void MenuBar::showSimulation(bool isSimulated) {
+    if (isSimulated == isSimulated_)
+        return;
+    isSimulated_ = isSimulated;
+    if (isSimulated)
+        pageText_->setOverrideColor(simulationBlue);
+    else
+        pageText_->enableOverrideColor(false);
+    showText();
+}
+
+void MenuBar::showText() {
+    irr::core::stringw text =
+        irr::core::stringw(L"Page ") + irr::core::stringw(page_ + 1) + L" / " + irr::core::stringw(pageCount_);
+    if (isSimulated_)
+        text = irr::core::stringw(L"SIMULATION   ") + text;
     pageText_->setText(text.c_str());
 }
 

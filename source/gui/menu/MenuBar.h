@@ -28,12 +28,15 @@ public:
     Button clickedBy(const irr::SEvent& event) const;
     /// `page` counts from 0.
     void showPage(int page, int pageCount);
+    /// Says beside the page that what the displays show is simulated.
+    void showSimulation(bool isSimulated);
     /// The "Menu" button, for the back key.
     irr::gui::IGUIElement* getMenuButton() const { return menu_; }
     void setVisible(bool visible);
     void setEnabled(bool enabled);
 
 private:
+    void showText();
     irr::gui::IGUIButton* addButton(const wchar_t* label, int left, int width, const char* style);
 
     irr::gui::IGUIEnvironment* environment_;
@@ -44,6 +47,7 @@ private:
     irr::gui::IGUIStaticText* pageText_;
     int page_ = -1;
     int pageCount_ = -1;
+    bool isSimulated_ = false;
 };
 
 } // namespace skyvane

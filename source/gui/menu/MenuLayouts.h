@@ -4,7 +4,11 @@
 extern "C" {
 extern const char altimeterLandscapeLayout[];
 extern const char altimeterPortraitLayout[];
+extern const char flightPlanLandscapeLayout[];
+extern const char flightPlanPortraitLayout[];
 extern const char forwardersLandscapeLayout[];
 extern const char forwardersPortraitLayout[];
 extern const char generalSetupSchema[]; ///< Of an IniEditor; "%FONTS%" stands for the alternatives of the fonts.
+extern const char simulatorLandscapeLayout[];
+extern const char simulatorPortraitLayout[];
 }

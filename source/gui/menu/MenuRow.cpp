@@ -35,8 +35,8 @@ bool hasOtherProcedures(Context& context) {
     return context.getProcedureManager()->getProcedureCount() > 1;
 }
 
-void planProcedure(Context& context) {
-    context.getProcedureManager()->newProcedure();
+void showFlightPlan(Context& context) {
+    context.getPanelManager()->getMenu()->showFlightPlan();
 }
 
 void flyNextProcedure(Context& context) {
@@ -77,6 +77,10 @@ void showAltimeter(Context& context) {
     context.getPanelManager()->getMenu()->showAltimeterSettings();
 }
 
+void showSimulator(Context& context) {
+    context.getPanelManager()->getMenu()->showSimulator();
+}
+
 void showForwarders(Context& context) {
     context.getPanelManager()->getMenu()->showForwarders();
 }
@@ -110,7 +114,7 @@ void exitProgram(Context& context) {
 
 const std::vector<MenuRow>& menuRows() {
     static const std::vector<MenuRow> rows = {
-        {L"New Procedure", "blueRow", planProcedure},
+        {L"FlightPlan", "blueRow", showFlightPlan},
         {L"Proc. >", "blueRow", flyNextProcedure, hasOtherProcedures},
         {L"< Proc.", "blueRow", flyPreviousProcedure, hasOtherProcedures},
         {L"Refresh", "blueRow", refreshFlightPlan, hasFlightPlan},
@@ -122,6 +126,7 @@ const std::vector<MenuRow>& menuRows() {
         {L"Restore Standard Config", "orangeRow", restoreStandardConfig},
         {L"Calib.", "orangeRow", calibrateSensors},
         {L"QNH/Altimeter Settings", "blueRow", showAltimeter},
+        {L"Position Simulator", "greenRow", showSimulator},
         {L"Forwarding", "greenRow", showForwarders, hasForwarderFactory},
         {L"Manual", "cyanRow", openManual},
         {L"Homepage", "cyanRow", openHomepage},

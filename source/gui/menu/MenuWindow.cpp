@@ -39,6 +39,13 @@ bool MenuWindow::isOwn(const irr::gui::IGUIElement* caller) const {
                        [caller](const auto& each) { return each.second->getElement() == caller; });
 }
 
+void MenuWindow::runOnWholeScreen(const std::function<void()>& run) {
+    window_->setVisible(false);
+    run();
+    window_->setVisible(true);
+    context_->getEvents()->setBackButton(element("bclose"));
+}
+
 bool MenuWindow::processEvent(const irr::SEvent& event) {
     if (event.EventType != irr::EET_GUI_EVENT || !isOwn(event.GUIEvent.Caller))
         return false;

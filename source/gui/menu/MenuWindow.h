@@ -3,6 +3,7 @@
 #include "core/engine/EngineRef.h"
 #include "gui/windows/GUI.h"
 
+#include <functional>
 #include <irrlicht.h>
 #include <memory>
 
@@ -23,6 +24,8 @@ public:
     bool processEvent(const irr::SEvent& event);
     /// Once a frame.
     virtual void update() {}
+    /// The flight plan, its paths or its current procedure are others.
+    virtual void OnProcedureChanged() {}
     irr::gui::IGUIWindow* getWindow() const { return window_.get(); }
 
 protected:
@@ -31,6 +34,8 @@ protected:
 
     /// A GUI event of an element of the window.
     virtual void onEvent(const irr::SEvent& event) = 0;
+    /// Runs what needs the whole screen, in frames of its own, with the window out of the way.
+    void runOnWholeScreen(const std::function<void()>& run);
     GUI& gui() { return *gui_; }
     irr::gui::IGUIElement* element(const char* id) const { return gui_->getElement(id); }
     irr::core::rect<int> getRect() const { return window_->getAbsolutePosition(); }

@@ -87,7 +87,15 @@ void IApproach::findRunwayAgain(IChartElementSource* charts) {
 void IApproach::lose(const std::string& message) {
     runway_.reset();
     setCourseList({});
-    host_->setMessage(this, message, MESSAGE_RED, -1);
+    loss_ = message;
+    host_->setMessage(this, loss_, MESSAGE_RED, -1);
+}
+
+void IApproach::repeatMessages() {
+    if (runway_)
+        warn();
+    else if (!loss_.empty())
+        host_->setMessage(this, loss_, MESSAGE_RED, -1);
 }
 
 void IApproach::OnChartChanged(IChartElementSource* charts) {

@@ -34,6 +34,7 @@ public:
                      unsigned index) override;
     void calculateCourseList(ChartPosition position, double altitude, double course) override;
     void OnChartChanged(IChartElementSource* charts) override;
+    void repeatMessages() override;
     std::string getName() override { return name_; }
     Type getType() override { return Approach; }
     /// Identifies the class in saved plans.
@@ -62,6 +63,7 @@ private:
 
     IProcedureHost* host_;
     std::optional<AppRunway> runway_;
+    std::string loss_; ///< Why there is no runway, when there is none.
     LandingRunway landing_;
     ChartPosition fafPosition_;
     double fafAltitude_ = 0.0; ///< metres

@@ -41,6 +41,8 @@ public:
     /// The charts are others now: finds the chart element again by its kind and place, as after reading a document.
     /// Without it the location becomes a plain position.
     virtual void OnChartChanged(IChartElementSource* charts);
+    /// What the pilot must hear of the procedure is told again.
+    virtual void repeatMessages() {}
 
     const ProcedureValues& getValues() const { return values_; }
     void setValues(const ProcedureValues& values) { values_ = values.checked(); }

@@ -1,14 +1,13 @@
 #include "gui/menu/Menu.h"
 
-#include "../windows/DialogFixture.h"
 #include "core/engine/TouchEvents.h"
 #include "core/engine/TouchTranslator.h"
 #include "core/ini/IniFile.h"
 #include "displays/PanelManager.h"
+#include "gui/menu/MenuFixture.h"
 #include "gui/menu/MenuRow.h"
 #include "procedures/aircraft/AircraftManager.h"
 #include "sensors/SensorManager.h"
-#include "sensors/StandardDataFactories.h"
 #include "sensors/records/Pressure_Data.h"
 
 namespace skyvane {
@@ -40,43 +39,7 @@ bool isTold(irr::gui::IGUIElement* element, const std::wstring& text) {
     return false;
 }
 
-/// The program with the pages of the standard configuration, without panels.
-class MenuTest : public DialogFixture {
-protected:
-    void SetUp() override {
-        DialogFixture::SetUp();
-        if (!context)
-            return;
-        panels = context->getPanelManager();
-        addStandardDataFactories(*context->getSensorManager());
-        IniFile config(context->getConfigPath());
-        config.set("", "optimized", "0");
-        config.Save(context->getConfigPath());
-        context->getSensorManager()->loadSensorSettingsFromIni(&config, false);
-        panels->loadPanelSettingsFromIni(&config, nullptr, false, false);
-        frame();
-    }
-    void frame(int count = 1) {
-        for (int i = 0; i < count; ++i)
-            frames->runFrame(nullptr);
-    }
-    /// Clicks what stands on the glass; the frame after it hears of it.
-    void tap(const std::wstring& text) {
-        click(text);
-        frame();
-    }
-    void openMenu() {
-        tap(L"Menu");
-        ASSERT_TRUE(panels->getMenu()->isOpen());
-    }
-    PanelArea area() { return MenuBar::panelArea(context->getScreenMetrics()); }
-    std::string setting(const char* key) {
-        IniFile config(context->getConfigPath());
-        return config.isAvailable("", key) ? config.get("", key) : "";
-    }
-
-    PanelManager* panels = nullptr;
-};
+class MenuTest : public MenuFixture {};
 
 /// What takes long, and looks at nothing that depends on the size.
 class MenuStormTest : public MenuTest {};
