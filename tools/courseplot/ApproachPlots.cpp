@@ -1,7 +1,7 @@
 #include "chart/elements/AirportElement.h"
 #include "chart/geodesy/EarthConstants.h"
 #include "chart/geodesy/LocalFrame.h"
-#include "courseplot/CoursePicture.h"
+#include "courseplot/CoursePlot.h"
 #include "procedures/approach/ApproachPath.h"
 #include "procedures/approach/LandingRunway.h"
 #include "procedures/approach/TrafficCircuit.h"
@@ -18,7 +18,7 @@ constexpr uint32_t RunwayColour = 0xff455a64;
 constexpr int Sides = 8;
 
 /// A final of that length, its fix turned from the extended centre line.
-ApproachPath approachPath(const CoursePicture& picture, double finalMiles, double turned) {
+ApproachPath approachPath(const CoursePlot& picture, double finalMiles, double turned) {
     const double course = RunwayCourse / DegreesPerRadian, back = (RunwayCourse + 180.0 + turned) / DegreesPerRadian;
     const double half = RunwayMetres / 2.0, final = finalMiles * MetresPerNauticalMile;
     ApproachPath path;
@@ -33,18 +33,18 @@ ApproachPath approachPath(const CoursePicture& picture, double finalMiles, doubl
     return path;
 }
 
-void drawField(CoursePicture& picture, const ApproachPath& path) {
+void drawField(CoursePlot& picture, const ApproachPath& path) {
     picture.line(path.threshold, path.farThreshold, RunwayColour, 7.0);
     picture.mark(path.faf, "FAF");
 }
 
-ApproachStart startAt(const CoursePicture& picture, double metres, double from, double turned) {
+ApproachStart startAt(const CoursePlot& picture, double metres, double from, double turned) {
     const double radians = from / DegreesPerRadian;
     return {picture.at(metres * std::sin(radians), metres * std::cos(radians)), 900.0, from + 180.0 + turned};
 }
 
 bool plotStraightIn(const std::string& folder) {
-    CoursePicture picture(Field, 26000.0);
+    CoursePlot picture(Field, 26000.0);
     const ApproachPath path = approachPath(picture, 5.0, 0.0);
     drawField(picture, path);
     for (int side = 0; side < Sides; ++side) {
@@ -59,7 +59,7 @@ bool plotStraightIn(const std::string& folder) {
 bool plotCircuits(const std::string& folder, bool isLeft) {
     bool isGood = true;
     for (int side = 0; side < Sides; ++side) {
-        CoursePicture picture(Field, 9000.0);
+        CoursePlot picture(Field, 9000.0);
         const ApproachPath path = approachPath(picture, 1.0, 0.0);
         const double from = 45.0 * side + 10.0;
         const ApproachStart start = startAt(picture, 7500.0, from, 30.0);
@@ -78,7 +78,7 @@ bool plotCircuits(const std::string& folder, bool isLeft) {
 bool plotBases(const std::string& folder, bool isLeft) {
     bool isGood = true;
     for (const double turned : {-80.0, -40.0, -15.0, 15.0, 40.0, 80.0}) {
-        CoursePicture picture(Field, 13000.0);
+        CoursePlot picture(Field, 13000.0);
         const ApproachPath path = approachPath(picture, 2.0, turned);
         const ApproachStart start = startAt(picture, 11000.0, 340.0, 30.0);
         picture.path(trafficPatternApproach(path, isLeft, Circuit, start));
@@ -93,7 +93,7 @@ bool plotBases(const std::string& folder, bool isLeft) {
 
 /// Nothing is known but the names and the direction.
 bool plotParallelRunways(const std::string& folder) {
-    CoursePicture picture(Field, 6000.0);
+    CoursePlot picture(Field, 6000.0);
     AirportElement airport;
     airport.position = Field;
     airport.elevationFeet = 200;

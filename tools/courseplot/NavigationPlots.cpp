@@ -1,7 +1,7 @@
 #include "chart/geodesy/EarthConstants.h"
 #include "chart/geodesy/GreatCircle.h"
 #include "core/ini/IniFile.h"
-#include "courseplot/CoursePicture.h"
+#include "courseplot/CoursePlot.h"
 #include "procedures/direct/DirectProcedure.h"
 #include "procedures/holding/HoldingProcedure.h"
 #include "procedures/intercept/InterceptProcedure.h"
@@ -25,7 +25,7 @@ ProcedureValues flownAt(double knots) {
 
 /// From eight sides of the place, on a course that is turned from the way to it.
 template <class Make>
-void fromAllSides(CoursePicture& picture, double metres, double turned, Make make) {
+void fromAllSides(CoursePlot& picture, double metres, double turned, Make make) {
     for (int side = 0; side < Sides; ++side) {
         const double from = 360.0 / Sides * side + 10.0, radians = from / DegreesPerRadian;
         const ChartPosition start = picture.at(metres * std::sin(radians), metres * std::cos(radians));
@@ -39,7 +39,7 @@ void fromAllSides(CoursePicture& picture, double metres, double turned, Make mak
 }
 
 bool plotDirect(const std::string& folder, double metres, const char* file, const char* title) {
-    CoursePicture picture(Place, metres * 1.25);
+    CoursePlot picture(Place, metres * 1.25);
     for (int side = 0; side < Sides; ++side) {
         const double radians = (360.0 / Sides * side + 10.0) / DegreesPerRadian;
         const ChartPosition aim = picture.at(metres * std::sin(radians), metres * std::cos(radians));
@@ -56,7 +56,7 @@ bool plotDirect(const std::string& folder, double metres, const char* file, cons
 
 bool plotHolding(const std::string& folder, const HoldingProcedure::Pattern& pattern, double turned, const char* file,
                  const char* title) {
-    CoursePicture picture(Place, 16000.0);
+    CoursePlot picture(Place, 16000.0);
     picture.mark(Place, "FIX");
     fromAllSides(picture, 12500.0, turned, [&] { return std::make_unique<HoldingProcedure>(Place, pattern, nullptr); });
     return picture.save(folder + file, title);
@@ -84,7 +84,7 @@ struct InterceptionPlot {
 
 bool plotInterception(const std::string& folder, const InterceptionPlot& plot) {
     constexpr double courseToElement = 250.0; // radial 070
-    CoursePicture picture(Place, plot.metres * 1.6);
+    CoursePlot picture(Place, plot.metres * 1.6);
     const double reach = plot.metres * 2.0, radians = (courseToElement + 180.0) / DegreesPerRadian;
     picture.line(picture.at(-reach * std::sin(radians), -reach * std::cos(radians)),
                  picture.at(reach * std::sin(radians), reach * std::cos(radians)), LineColour, 1.0);

@@ -1,4 +1,4 @@
-#include "courseplot/CoursePicture.h"
+#include "courseplot/CoursePlot.h"
 
 #include <iostream>
 

@@ -5,6 +5,8 @@
 #include "gui/skin/Skin.h"
 #include "gui/windows/WindowTools.h"
 
+#include <algorithm>
+
 namespace skyvane {
 namespace {
 
@@ -77,10 +79,12 @@ void MenuBar::showSimulation(bool isSimulated) {
 }
 
 void MenuBar::showText() {
-    irr::core::stringw text =
-        irr::core::stringw(L"Page ") + irr::core::stringw(page_ + 1) + L" / " + irr::core::stringw(pageCount_);
-    if (isSimulated_)
-        text = irr::core::stringw(L"SIMULATION   ") + text;
+    const irr::core::stringw page = irr::core::stringw(page_ + 1) + L" / " + irr::core::stringw(pageCount_);
+    irr::core::stringw text = isSimulated_ ? L"SIMULATION   Page " : L"Page ";
+    text += page;
+    const irr::u32 room = static_cast<irr::u32>(std::max(0, pageText_->getRelativePosition().getWidth()));
+    if (isSimulated_ && environment_->getSkin()->getFont()->getDimension(text.c_str()).Width > room)
+        text = irr::core::stringw(L"SIM   ") + page;
     pageText_->setText(text.c_str());
 }
 

@@ -12,18 +12,18 @@
 namespace skyvane {
 namespace {
 
-/// The lower part of the panels: the upper instruments stay in sight.
 constexpr double shareOfPanels = 0.62;
 
 } // namespace
 
-MenuWindow::MenuWindow(Context* context, const char* landscape, const char* portrait) : context_(context) {
+MenuWindow::MenuWindow(Context* context, const char* landscape, const char* portrait, Place place) : context_(context) {
     irr::gui::IGUIEnvironment* environment = context->getIrrlichtDevice()->getGUIEnvironment();
     IniFile document = readLayout(context->isPortrait() ? portrait : landscape);
     const PanelArea area = MenuBar::panelArea(context->getScreenMetrics());
-    const int top = area.bottom - static_cast<int>((area.bottom - area.top) * shareOfPanels);
+    const int height = static_cast<int>((area.bottom - area.top) * shareOfPanels);
+    const int top = place == Place::Low ? area.bottom - height : area.top;
     window_ = EngineRef<irr::gui::IGUIWindow>::share(addWindowForRatio(
-        environment, &document, irr::core::rect<int>(0, top, area.width, area.bottom), false, nullptr, -1));
+        environment, &document, irr::core::rect<int>(0, top, area.width, top + height), false, nullptr, -1));
     gui_ = std::make_unique<GUI>(environment, &document, windowArea(window_.get()), window_.get(), false);
     context->getEvents()->setBackButton(element("bclose"));
 }

@@ -29,8 +29,13 @@ public:
     irr::gui::IGUIWindow* getWindow() const { return window_.get(); }
 
 protected:
+    enum class Place {
+        Low, ///< The upper instruments stay in sight.
+        High ///< The keys on the screen leave it free.
+    };
+
     /// The layouts are texts that end in a NUL.
-    MenuWindow(Context* context, const char* landscape, const char* portrait);
+    MenuWindow(Context* context, const char* landscape, const char* portrait, Place place = Place::Low);
 
     /// A GUI event of an element of the window.
     virtual void onEvent(const irr::SEvent& event) = 0;

@@ -27,8 +27,8 @@ constexpr int lowestFeet = -2000, highestFeet = 60000;
 } // namespace
 
 PositionSimulator::PositionSimulator(Context* context)
-    : MenuWindow(context, simulatorLandscapeLayout, simulatorPortraitLayout), sensors_(context->getSensorManager()),
-      search_(context->getPanelManager()->getSearchBoxHandler()) {
+    : MenuWindow(context, simulatorLandscapeLayout, simulatorPortraitLayout, Place::High),
+      sensors_(context->getSensorManager()), search_(context->getPanelManager()->getSearchBoxHandler()) {
     pause_.emplace(*context->getPanelManager());
     prepareHelpButton(context, element("bhelp"), helpFile);
     SearchBoxElements elements;

@@ -36,13 +36,13 @@ constexpr ProcedureForm::Row AllRows[] = {
     {"isLeftTraffic", "Left Traffic", Kind::Flag, 1.0, 0.0, 0.0, 1.0},
     {AltitudeKey, "Altitude at the end [ft, MSL] (empty: as before): ", Kind::Number, MetresPerFoot, 0.0, LowestFeet,
      HighestFeet, true},
-    {"targetTurnRate", "target TurnRate [°/s]: ", Kind::Number, 1.0, 0.0, Limits::LeastTurnRate, Limits::MostTurnRate},
+    {"targetTurnRate", "Target TurnRate [°/s]: ", Kind::Number, 1.0, 0.0, Limits::LeastTurnRate, Limits::MostTurnRate},
     {"targetGroundSpeed", "approx. GS [Kts]: ", Kind::Number, 1.0, 0.0, 0.0, FastestKnots},
-    {"checkCourse", "Warn off course", Kind::Flag, 1.0, 0.0, 0.0, 1.0},
+    {"checkCourse", "Warn when off course", Kind::Flag, 1.0, 0.0, 0.0, 1.0},
     {"positionTolerance", "Tolerance of the position [feet]: ", Kind::Number, MetresPerFoot, 0.0, 0.0, WidestFeet},
-    {"checkAltitude", "Warn off altitude", Kind::Flag, 1.0, 0.0, 0.0, 1.0},
+    {"checkAltitude", "Warn when off altitude", Kind::Flag, 1.0, 0.0, 0.0, 1.0},
     {"altitudeTolerance", "Tolerance of the altitude [feet]: ", Kind::Number, MetresPerFoot, 0.0, 0.0, WidestFeet},
-    {"checkGroundSpeed", "Warn of another ground speed", Kind::Flag, 1.0, 0.0, 0.0, 1.0},
+    {"checkGroundSpeed", "Warn when off ground speed", Kind::Flag, 1.0, 0.0, 0.0, 1.0},
     {"speedTolerance", "Tolerance of the speed [Kts]: ", Kind::Number, 1.0, 0.0, 0.0, FastestKnots}};
 
 /// A tenth is as fine as a pilot enters anything.

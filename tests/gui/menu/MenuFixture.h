@@ -29,8 +29,25 @@ protected:
         for (int i = 0; i < count; ++i)
             frames->runFrame(nullptr);
     }
+    /// Scrolls the column of the menu until the whole element is in sight.
+    void reveal(irr::gui::IGUIElement* element) {
+        const auto isInSight = [element] {
+            return element->getAbsoluteClippingRect().getHeight() >= element->getAbsolutePosition().getHeight() - 1;
+        };
+        for (int i = 0; i < 20 && !isInSight(); ++i) {
+            irr::core::position2di place(context->getRecommendedButtonWidth(), area().bottom / 2);
+            post(irr::EMIE_LMOUSE_PRESSED_DOWN, place);
+            place.Y -= 3 * context->getRecommendedButtonHeight();
+            post(irr::EMIE_MOUSE_MOVED, place);
+            post(irr::EMIE_LMOUSE_LEFT_UP, place);
+            frame();
+        }
+        EXPECT_TRUE(isInSight());
+    }
     /// Clicks what stands on the glass; the frame after it hears of it.
     void tap(const std::wstring& text) {
+        if (irr::gui::IGUIElement* element = findText(root, text); element && panels->getMenu()->isOpen())
+            reveal(element);
         click(text);
         frame();
     }

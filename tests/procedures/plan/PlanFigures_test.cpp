@@ -79,7 +79,7 @@ TEST_F(PlanForms, changeWhatThePilotEntersAndNothingElse) {
     ProcedureForm form(procedure, nullptr);
     for (const char* wrong : {"", "0", "91", "x", "2,5"}) {
         form.values.set("", "targetTurnRate", wrong);
-        EXPECT_EQ(form.findTrouble(), "target TurnRate [°/s]: \nplease enter a number from 0.1 to 90.") << wrong;
+        EXPECT_EQ(form.findTrouble(), "Target TurnRate [°/s]: \nplease enter a number from 0.1 to 90.") << wrong;
         EXPECT_EQ(form.create(nullptr), nullptr);
     }
 }

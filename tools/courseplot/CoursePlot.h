@@ -10,10 +10,10 @@ namespace skyvane {
 
 /// A picture of paths around a place, north up, to scale: each path a line in a colour of its own with a dot for each
 /// of its elements, thin where it only leads to the procedure, and altitudes in feet where they change.
-class CoursePicture {
+class CoursePlot {
 public:
     /// So far to each side of the place.
-    CoursePicture(const ChartPosition& centre, double metres);
+    CoursePlot(const ChartPosition& centre, double metres);
 
     /// Where an aircraft is, and its course.
     void aircraft(const ChartPosition& position, double course);

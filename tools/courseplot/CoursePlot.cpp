@@ -1,4 +1,4 @@
-#include "courseplot/CoursePicture.h"
+#include "courseplot/CoursePlot.h"
 
 #include "chart/geodesy/EarthConstants.h"
 #include "chart/geodesy/LocalFrame.h"
@@ -26,7 +26,7 @@ MapPicture::Box boxAround(const ChartPosition& centre, double metres) {
 
 } // namespace
 
-CoursePicture::CoursePicture(const ChartPosition& centre, double metres)
+CoursePlot::CoursePlot(const ChartPosition& centre, double metres)
     : centre_(centre), metres_(metres), picture_(boxAround(centre, metres), PictureWidth, 0xffffffff) {
     const double step = MilesGrid * MetresPerNauticalMile * (metres > 30000.0 ? 10.0 : 1.0);
     for (double place = -std::floor(metres / step) * step; place <= metres; place += step) {
@@ -35,11 +35,11 @@ CoursePicture::CoursePicture(const ChartPosition& centre, double metres)
     }
 }
 
-ChartPosition CoursePicture::at(double east, double north) const {
+ChartPosition CoursePlot::at(double east, double north) const {
     return Vector3df642ChartPosition(centre_, {east, 0.0, north});
 }
 
-void CoursePicture::aircraft(const ChartPosition& position, double course) {
+void CoursePlot::aircraft(const ChartPosition& position, double course) {
     const MapPicture::Point place = picture_.place(position);
     constexpr double size = 14.0;
     const auto corner = [&](double turn, double length) {
@@ -49,7 +49,7 @@ void CoursePicture::aircraft(const ChartPosition& position, double course) {
     picture_.polygon({corner(0.0, size), corner(145.0, size), corner(215.0, size)}, 0xffffc400, Ink, 1.0);
 }
 
-void CoursePicture::path(const CourseList& list) {
+void CoursePlot::path(const CourseList& list) {
     const uint32_t colour = Colours[paths_++ % std::size(Colours)];
     for (auto a = list.begin(); a != list.end(); ++a) {
         const auto b = std::next(a);
@@ -60,7 +60,7 @@ void CoursePicture::path(const CourseList& list) {
     altitudes(list);
 }
 
-void CoursePicture::altitudes(const CourseList& list) {
+void CoursePlot::altitudes(const CourseList& list) {
     double told = 1e9;
     for (const CourseElement& element : list) {
         const double feet = element.altitude / MetresPerFoot;
@@ -74,7 +74,7 @@ void CoursePicture::altitudes(const CourseList& list) {
     }
 }
 
-void CoursePicture::mark(const ChartPosition& position, const std::string& text) {
+void CoursePlot::mark(const ChartPosition& position, const std::string& text) {
     const MapPicture::Point place = picture_.place(position);
     picture_.circle(place, 6.0, 0x00000000, Ink, 1.5);
     MapPicture::LabelStyle style;
@@ -83,11 +83,11 @@ void CoursePicture::mark(const ChartPosition& position, const std::string& text)
     picture_.label({place.x + 4.0, place.y}, text, style);
 }
 
-void CoursePicture::line(const ChartPosition& from, const ChartPosition& to, uint32_t colour, double width) {
+void CoursePlot::line(const ChartPosition& from, const ChartPosition& to, uint32_t colour, double width) {
     picture_.line({from, to}, false, colour, width);
 }
 
-bool CoursePicture::save(const std::string& path, const std::string& title) {
+bool CoursePlot::save(const std::string& path, const std::string& title) {
     MapPicture::LabelStyle style;
     style.size = 20.0;
     style.isAlways = true;
