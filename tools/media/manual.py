@@ -110,8 +110,8 @@ def menu_row(index):
 
 
 # Their rows in the menu.
-SCREENS = [('sensors', 0), ('panels', 1), ('aircraft', 2), ('general', 3), ('presets', 4), ('altimeter-settings', 7),
-           ('forwarding', 8)]
+SCREENS = [('flightplan', 0), ('sensors', 1), ('panels', 2), ('aircraft', 3), ('general', 4), ('presets', 5),
+           ('altimeter-settings', 8), ('simulator', 9), ('forwarding', 10)]
 
 
 def scene_screens():
