@@ -135,7 +135,7 @@ class Glass:
         """The middle of the uppermost button of that colour; None where there is none."""
         pixels = self.cockpit.look().astype(int)
         r, g, b = pixels[:, :, 0], pixels[:, :, 1], pixels[:, :, 2]
-        mask = (r > 2 * g) & (r > 2 * b) & (r > 80) if colour == RED else (g > r + 30) & (g > b + 20)
+        mask = (r > 2 * g) & (r > 2 * b) & (r > 80) if colour == RED else (g > 1.8 * r) & (g > r + 30) & (g > b + 20)
         sums = numpy.pad(mask.cumsum(0).cumsum(1), ((1, 0), (1, 0)))
         high, wide = self.button // 2, self.button // 4
         inside = sums[high:, wide:] - sums[:-high, wide:] - sums[high:, :-wide] + sums[:-high, :-wide]
