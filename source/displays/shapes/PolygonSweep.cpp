@@ -33,10 +33,10 @@ void PolygonSweep::addEdges(const ShapePath& polygon) {
     edges_.reserve(polygon.size());
     for (size_t i = 0, last = polygon.size() - 1; i < polygon.size(); last = i++) {
         const ShapePoint &a = polygon[last], &b = polygon[i];
-        if (a.Y < b.Y)
-            edges_.push_back({a, b});
-        else if (b.Y < a.Y)
-            edges_.push_back({b, a});
+        if (a.Y != b.Y) {
+            const bool rises = a.Y < b.Y;
+            edges_.push_back({rises ? a : b, rises ? b : a, (b.X - a.X) / (b.Y - a.Y)});
+        }
     }
     std::sort(edges_.begin(), edges_.end(), [](const Edge& a, const Edge& b) { return a.low.Y < b.low.Y; });
     levels_.reserve(2 * edges_.size());

@@ -39,7 +39,8 @@ private:
     /// A side of the polygon, turned so that y rises.
     struct Edge {
         ShapePoint low, high;
-        double at(double y) const { return low.X + (y - low.Y) / (high.Y - low.Y) * (high.X - low.X); }
+        double slope;
+        double at(double y) const { return y < high.Y ? low.X + (y - low.Y) * slope : high.X; }
     };
     struct Active {
         uint32_t edge;

@@ -1,0 +1,273 @@
+#include "chart/elements/AirportElement.h"
+#include "chart/elements/AirspaceElement.h"
+#include "chart/elements/AirwayElement.h"
+#include "chart/elements/GroundGeometryElement.h"
+#include "chart/elements/MarkElement.h"
+#include "chart/elements/NDBElement.h"
+#include "chart/elements/ObstructionElement.h"
+#include "chart/elements/VORElement.h"
+#include "chart/elements/WaypointElement.h"
+#include "chart/store/IChart.h"
+#include "displays/map/IChartElementRenderer.h"
+#include "displays/map/Map2D.h"
+#include "displays/map/Map2DFactory.h"
+#include "displays/map/elements/ElementScene.h"
+#include "sensors/SensorFakes.h"
+#include "sensors/SensorManager.h"
+#include "sensors/StandardDataFactories.h"
+#include "sensors/records/Altitude_Data.h"
+#include "sensors/records/Heading_Data.h"
+#include "sensors/records/Position_Data.h"
+
+#include <cmath>
+
+namespace skyvane {
+namespace {
+
+using irr::core::rect;
+
+/// A running map over the user's own elements, off the coast of nowhere: around 0 N 0 E.
+class ElementsOnMap : public ElementScene {
+protected:
+    void SetUp() override {
+        ElementScene::SetUp();
+        if (!context)
+            return;
+        loadSensors();
+        panels().loadFontSettingsFromIni(&ini);
+        panels().loadPanelSettingsFromIni(&ini, nullptr, false, false);
+    }
+    void TearDown() override {
+        map.reset();
+        factory.reset();
+        ElementScene::TearDown();
+    }
+    PanelManager& panels() { return *context->getPanelManager(); }
+
+    void loadSensors() {
+        SensorManager& sensors = *context->getSensorManager();
+        addStandardDataFactories(sensors);
+        sensors.addSensorFactory(std::make_unique<FakeSensorFactory>());
+        IniFile document;
+        document.setFromString("SensorCount = 2\nD2 = 1\nD4 = 1\nD5 = 1\n[S1]\nFactoryIndex = 0\n");
+        sensors.loadSensorSettingsFromIni(&document, false);
+        sensor = dynamic_cast<FakeSensor*>(sensors.getSensorInterface(1));
+        ASSERT_NE(sensor, nullptr);
+        fly(90.0, 1000.0);
+    }
+    void fly(double heading, double altitude) {
+        sensor->put<Position_Data>(ISensorData::Position, 0.0, 0.0, 1u);
+        sensor->put<Heading_Data>(ISensorData::Heading, heading, 1u);
+        sensor->put<Altitude_Data>(ISensorData::Altitude, altitude, 1u);
+    }
+
+    template <class Element>
+    std::unique_ptr<Element> at(double longitude, double latitude) {
+        auto element = std::make_unique<Element>();
+        element->position = {longitude, latitude};
+        return element;
+    }
+    int add(std::unique_ptr<IChartElement> element) {
+        const int id = panels().getChart()->addCustomChartElement(std::move(element));
+        EXPECT_NE(id, 0);
+        return id;
+    }
+
+    void openMap(const char* settings) {
+        IniFile document;
+        const std::string text = std::string("[P0]\nterrainEnable = 1\nlowObstacles = 1\nbgType = none\n"
+                                             "drawNose = 0\nplaneSize = 0.001\nmapElementSize = 0.09\n") +
+                                 settings;
+        document.setFromString(text.c_str());
+        panels().getChart()->deleteCache(); // elements as they are read from their documents
+        factory = std::make_unique<Map2DFactory>(context.get());
+        factory->loadSetupFromIni(&document, "P0");
+        std::unique_ptr<IPanel> panel = factory->Create();
+        map.reset(static_cast<Map2D*>(panel.release()));
+        draw();
+    }
+    /// Frames until the map is as it shall be: a zoom waits for a moment, and tiles fill while time goes on.
+    void draw() {
+        const double start = Secs();
+        for (int i = 0; i < 8 || Secs() - start < 0.5; ++i) {
+            gl.begin();
+            map->render(rect<int>(0, 0, width, height));
+            context->getDrawer()->flush();
+            gl.end();
+        }
+    }
+    void zoom(int steps) {
+        irr::SEvent event{};
+        event.EventType = irr::EET_MOUSE_INPUT_EVENT;
+        event.MouseInput.Event = irr::EMIE_MOUSE_WHEEL;
+        event.MouseInput.X = width / 2;
+        event.MouseInput.Y = height / 2;
+        event.MouseInput.Wheel = steps > 0 ? 1.0f : -1.0f;
+        for (int i = 0; i < std::abs(steps); ++i)
+            map->processEvent(event);
+        draw();
+    }
+
+    irr::core::vector2d<int> pixelOf(double longitude, double latitude) {
+        return map->calcScreenCoordinates(longitude, latitude, false);
+    }
+    /// Pixels of that colour around a place of the map.
+    int around(double longitude, double latitude, uint32_t argb, int reach = 20, int tolerance = 24) {
+        const auto middle = pixelOf(longitude, latitude);
+        rect<int> area(middle.X - reach, middle.Y - reach, middle.X + reach, middle.Y + reach);
+        area.clipAgainst(rect<int>(0, 0, width, height));
+        return count(area, argb, tolerance);
+    }
+    bool isHit(int id, int dx, int dy) {
+        IChartElement* element = panels().getChart()->getChartElement(id);
+        const ChartPosition place = element->getPosition();
+        return context->getChartElementRenderer(element->getType())
+            ->isMouseOver2D(map.get(), element, id,
+                            pixelOf(place.longitude, place.latitude) + irr::core::vector2d<int>(dx, dy));
+    }
+
+    IniFile ini;
+    FakeSensor* sensor = nullptr;
+    std::unique_ptr<Map2DFactory> factory;
+    std::unique_ptr<Map2D> map;
+};
+
+std::unique_ptr<GroundGeometryElement> ground(uint8_t feature, uint8_t geoType, std::vector<ChartPosition> vertices) {
+    auto element = std::make_unique<GroundGeometryElement>();
+    element->feature = feature;
+    element->geoType = geoType;
+    element->vertices = std::move(vertices);
+    element->recalculateBoundingBox();
+    return element;
+}
+
+TEST_F(ElementsOnMap, eachKindHasItsSymbolAtItsPlace) {
+    auto field = at<AirportElement>(0.15, 0.15);
+    field->runways.resize(1);
+    field->runways[0].surface = Runway::Grass;
+    field->runways[0].lengthFeet = 5000;
+    field->runways[0].widthFeet = 300;
+    field->runways[0].directionDegrees = 90;
+    field->ident = "";
+    field->name = "";
+    const int airport = add(std::move(field));
+    auto vorElement = at<VORElement>(-0.15, 0.15);
+    const int vor = add(std::move(vorElement));
+    add(at<NDBElement>(-0.15, 0.0));
+    auto fix = at<WaypointElement>(-0.15, -0.15);
+    fix->use.lowAltitude = true;
+    add(std::move(fix));
+    add(at<MarkElement>(0.0, 0.15));
+    auto mast = at<ObstructionElement>(0.15, 0.0);
+    mast->altitudeMslFeet = 3281; // level with the aircraft
+    add(std::move(mast));
+    mast = at<ObstructionElement>(0.15, -0.15);
+    mast->altitudeMslFeet = 2500; // 238 m below it
+    add(std::move(mast));
+    auto airway = std::make_unique<AirwayElement>();
+    airway->start = {-0.35, -0.25};
+    airway->end = {0.35, -0.25};
+    airway->isLowAltitude = true;
+    const int way = add(std::move(airway));
+    auto airspace = std::make_unique<AirspaceElement>();
+    airspace->airspaceClass = "C";
+    airspace->vertices = {{-0.3, -0.3}, {-0.3, 0.3}, {0.3, 0.3}, {0.3, -0.3}};
+    airspace->topFeet = 5000;
+    const int zone = add(std::move(airspace));
+    add(ground(13, GroundGeometryElement::Polygon, {{-0.08, -0.2}, {0.08, -0.2}, {0.08, -0.1}, {-0.08, -0.1}}));
+    auto road = ground(9, GroundGeometryElement::Line, {{-0.38, 0.26}, {0.38, 0.26}});
+    road->additionalData = 32;
+    add(std::move(road));
+
+    openMap("lowIFR = 1\nairways = 1\nmarks = 1\ndescriptions = 0\n");
+    gl.savePicture("kinds.png");
+    EXPECT_GT(around(0.15, 0.15, 0xff8fc46a), 30); // the runway's grass
+    EXPECT_GT(around(-0.15, 0.15, 0xff0000ff), 60);
+    EXPECT_GT(around(-0.15, 0.0, 0xfffa6cff), 20);
+    EXPECT_GT(around(-0.15, -0.15, 0xff33f8ff), 20);
+    EXPECT_GT(around(0.0, 0.15, 0xffe8203c), 40);
+    EXPECT_GT(around(0.15, 0.0, 0xffff0000), 30);
+    EXPECT_EQ(around(0.15, 0.0, 0xff00ff00), 0);
+    EXPECT_GT(around(0.15, -0.15, 0xff00ff00), 30);
+    EXPECT_GT(around(0.1, -0.25, 0xff3c96e1), 30);
+    EXPECT_GT(around(0.3, 0.08, 0xfff700f7), 60);
+    EXPECT_GT(around(0.0, -0.15, 0xff3f7fc4, 10), 300); // all of the lake
+    EXPECT_GT(around(0.2, 0.26, 0xfff1cf73, 20, 70), 20);
+
+    EXPECT_TRUE(isHit(airport, 5, 3));
+    EXPECT_FALSE(isHit(airport, 80, 3));
+    EXPECT_TRUE(isHit(vor, -8, 8));
+    EXPECT_FALSE(isHit(vor, -8, 80));
+    EXPECT_TRUE(isHit(way, 200, 0)); // its middle is its position
+    EXPECT_FALSE(isHit(way, 0, 60));
+    EXPECT_TRUE(isHit(zone, 60, -60)); // inside of its south-western corner
+    EXPECT_FALSE(isHit(zone, -60, 60));
+
+    zoom(-4);
+    ASSERT_GT(map->getViewArea(), 2.5);
+    gl.savePicture("kindsFar.png");
+    EXPECT_GT(around(0.15, 0.15, 0xff008000, 14), 30); // the symbol, in the colour of grass
+    EXPECT_GT(around(0.15, 0.15, 0xffffffff, 14), 60);
+    EXPECT_LT(around(0.15, 0.15, 0xff8fc46a, 14), 10);
+    EXPECT_EQ(around(-0.15, -0.15, 0xff33f8ff), 0); // fixes are for nearer views
+}
+
+TEST_F(ElementsOnMap, obstaclesFollowTheAircraftAndTheTrack) {
+    auto mast = at<ObstructionElement>(0.2, 0.0);
+    mast->altitudeMslFeet = 3281;
+    const int id = add(std::move(mast));
+    openMap("descriptions = 0\n");
+    IChartElementRenderer& renderer = *context->getChartElementRenderer(IChartElement::OBSTRUCTION);
+    IChartElement* element = panels().getChart()->getChartElement(id);
+    char bytes[IChartElement::StaticDataSize];
+    element->writeStaticData(bytes);
+    EXPECT_TRUE(renderer.will2DMapChange(map.get(), element, 1000.0, 1200.0));
+    EXPECT_FALSE(renderer.will2DMapChange(map.get(), element, 1000.0, 1040.0)); // red both times
+    EXPECT_FALSE(renderer.may2DMapPotentiallyChange(map.get(), bytes, 1500.0, 3000.0));
+    EXPECT_GT(around(0.2, 0.0, 0xffff0000), 30);
+
+    fly(90.0, 1300.0);
+    draw();
+    EXPECT_EQ(around(0.2, 0.0, 0xffff0000), 0);
+    EXPECT_GT(around(0.2, 0.0, 0xff00ff00), 30);
+
+    irr::SEvent press{};
+    press.EventType = irr::EET_MOUSE_INPUT_EVENT;
+    press.MouseInput.X = 20;
+    press.MouseInput.Y = height - 20;
+    press.MouseInput.Event = irr::EMIE_LMOUSE_PRESSED_DOWN;
+    map->processEvent(press);
+    press.MouseInput.Event = irr::EMIE_LMOUSE_LEFT_UP;
+    map->processEvent(press);
+    draw();
+    ASSERT_EQ(map->getTopTrack(), 90.0);
+    EXPECT_NEAR(pixelOf(0.2, 0.0).X, width / 2, 1); // straight ahead is up
+    EXPECT_GT(around(0.2, 0.0, 0xff00ff00), 30);
+}
+
+TEST_F(ElementsOnMap, aHugePolygonIsFilledWhileFramesGoOn) {
+    std::vector<ChartPosition> coast;
+    for (int i = 0; i < 100000; ++i) {
+        const double angle = i * 2.0 * 3.14159265358979 / 100000.0;
+        const double r = 0.2 * (1.0 + 0.05 * std::sin(40.0 * angle) + 0.002 * (i % 7));
+        coast.emplace_back(r * std::cos(angle), r * std::sin(angle));
+    }
+    const auto lake = ground(13, GroundGeometryElement::Polygon, std::move(coast));
+    openMap("descriptions = 0\n");
+    zoom(8); // all of its detail counts
+    IChartElementRenderer& renderer = *context->getChartElementRenderer(IChartElement::GROUNDGEOMETRY);
+    const auto drawLake = [&] {
+        frame([&] { renderer.render2D(lake.get(), map.get(), 77, false, false); });
+        return count(rect<int>(width / 2 - 20, 200, width / 2 + 20, 240), 0xff3f7fc4);
+    };
+    EXPECT_EQ(drawLake(), 0); // not yet
+    int frames = 0;
+    while (!renderer.OnFrame2D() && frames < 100000)
+        ++frames;
+    EXPECT_GT(frames, 3);
+    EXPECT_EQ(drawLake(), 40 * 40);
+    EXPECT_FALSE(renderer.OnFrame2D());
+}
+
+} // namespace
+} // namespace skyvane
