@@ -20,8 +20,8 @@ const irr::video::SColor good(0xffffffff), doubtful(0xffffe11f), failed(0xfff01c
 Map3D::Map3D(Context* context, const VisionSettings& settings, std::string section)
     : IPanel(context), settings_(settings), section_(std::move(section)), effective_(settings.switches),
       drawer_(context->getDrawer()), stage_(context->getIrrlichtDevice()->getVideoDriver()), sky_(context),
-      terrain_(context), highway_(context), aircraft_(context, "media/plane.b3d"), traffic_(context), symbols_(context),
-      flags_(context), bars_(context, settings), buttons_(context) {}
+      terrain_(context), highway_(context), elements_(context), labels_(context), aircraft_(context, "media/plane.b3d"),
+      traffic_(context), symbols_(context), flags_(context), bars_(context, settings), buttons_(context) {}
 
 void Map3D::OnPageChange() {
     finger_.cancel();
@@ -35,6 +35,7 @@ void Map3D::OnHideGUI() {
 void Map3D::applyOptimizedSettings(OptimizedSettings settings) {
     preset_ = settings;
     effective_ = applyPreset(settings_.switches, settings);
+    elements_.invalidate();
 }
 
 /// Without one of them nobody knows where the ground is that would be seen.
@@ -89,6 +90,8 @@ void Map3D::renderScene(const irr::core::rect<int>& seen) {
         terrain_.draw(stage_, readings_.position, shownHeight_);
     sky_.draw(stage_, settings_.useSkyBox);
     if (isPlaceKnown()) {
+        elements_.update(*this, terrain_, readings_.position, shownHeight_, static_cast<double>(settings_.sightMetres));
+        elements_.draw(stage_, readings_.position);
         highway_.draw(stage_, readings_.position);
         traffic_.drawMeshes(stage_, readings_.position, shownHeight_, settings_.sightMetres);
     }
@@ -112,8 +115,10 @@ void Map3D::renderGlass() {
     scene.free = bars_.getFreeRect(rect_);
     scene.isDoubtful = readings_.trust.isAnyDoubtful();
     scene.hasBankScale = settings_.renderBank;
-    if (isPlaceKnown())
+    if (isPlaceKnown() && !(firstPerson_ && !readings_.trust.isAttitudeShown())) {
+        labels_.draw(stage_, elements_, readings_.position, rect_, scene.free);
         traffic_.drawSymbols(stage_, rect_);
+    }
     if (firstPerson_ && readings_.trust.isAttitudeShown()) {
         const AttitudePose attitude = calcAttitudePose(readings_.attitude);
         scene.pitchDegrees = attitude.pitchDegrees;

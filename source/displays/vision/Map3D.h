@@ -4,7 +4,9 @@
 #include "displays/drawing/Drawer2D.h"
 #include "displays/instruments/DialFlagView.h"
 #include "displays/vision/AircraftView.h"
+#include "displays/vision/ElementScene.h"
 #include "displays/vision/HighwayView.h"
+#include "displays/vision/LabelView.h"
 #include "displays/vision/SceneButtons.h"
 #include "displays/vision/SceneFlags.h"
 #include "displays/vision/SceneStage.h"
@@ -36,6 +38,8 @@ public:
     void render(irr::core::rect<int> rect) override;
     bool processEvent(irr::SEvent event) override;
     std::string getName() override { return "3D-Map"; }
+    void OnChartChanged() override { elements_.invalidate(); }
+    void OnProcedureChanged() override { elements_.invalidate(); }
     void OnHideGUI() override;
     void OnTerrainNodesDelete() override { terrain_.dropNearMesh(); }
     void OnTerrainMeshExchanged() override { terrain_.takeNearMesh(); }
@@ -49,6 +53,8 @@ public:
     const VisionSwitches& getSwitches() const { return effective_; }
     const VisionSettings& getSettings() const { return settings_; }
     bool isFirstPerson() const { return firstPerson_; }
+    /// What the renderers of chart elements fill.
+    ElementScene& getElements() { return elements_; }
 
 private:
     void updatePose();
@@ -74,6 +80,8 @@ private:
     SkyView sky_;
     TerrainView terrain_;
     HighwayView highway_;
+    ElementScene elements_;
+    LabelView labels_;
     AircraftView aircraft_;
     TrafficView traffic_;
     SymbolView symbols_;

@@ -100,7 +100,7 @@ void Map3D::openOptions() {
     settings_.switches = choice.switches;
     settings_.renderTrueMagHeading = choice.renderTrueMagHeading;
     bars_.setTrueMagneticHeading(choice.renderTrueMagHeading);
-    effective_ = applyPreset(settings_.switches, preset_);
+    applyOptimizedSettings(static_cast<OptimizedSettings>(preset_));
     storeVisionOptions(*context_, section_, choice);
 }
 

@@ -6,9 +6,11 @@
 namespace skyvane {
 namespace {
 
-/// How far the corner lies on the sky's side when the middle of the panel lies on the line.
+/// From the middle of the panel to its edge, straight across the line.
 double reachOf(const HorizonLine& line, const Lens& lens) {
-    return std::abs(line.skyward.X) * lens.width / 2.0 + std::abs(line.skyward.Y) * lens.height / 2.0;
+    constexpr double least = 1e-9;
+    return std::min(lens.width / 2.0 / std::max(std::abs(line.skyward.X), least),
+                    lens.height / 2.0 / std::max(std::abs(line.skyward.Y), least));
 }
 
 } // namespace

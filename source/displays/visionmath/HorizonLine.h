@@ -26,8 +26,8 @@ struct HorizonLine {
 /// Looking straight up or down there is no line on the panel: it lies far off, and level.
 HorizonLine calcHorizon(const ViewPose& pose, const Lens& lens);
 
-/// The same, moved so that each side of it shows at least this many pixels in the farthest corner of the panel. True
-/// when it had to be moved: the picture below doesn't show the horizon then.
+/// The same, moved so that straight across it each side shows at least this many pixels up to the edge of the panel.
+/// True when it had to be moved: the picture below doesn't show that much then.
 bool keepInView(HorizonLine& line, const Lens& lens, double sliverPixels);
 
 /// The part of the panel on one side of the line, as a convex outline of at most five points; empty when there is none.

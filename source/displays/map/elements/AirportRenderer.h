@@ -33,6 +33,8 @@ public:
     int getPriority(const IChartElement*) override { return 750; }
     int getSelectPriority(const IChartElement* element) override;
     bool isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) override;
+    bool isPotentiallyRenderable3D(int index, Map3D* map, const char* staticBytes) override;
+    void render3D(const IChartElement* element, Map3D* map, int index) override;
 
 private:
     /// The last sketch that was drawn: displays draw the same one again and again.

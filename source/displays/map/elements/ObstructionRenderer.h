@@ -30,6 +30,8 @@ public:
 
     /// By how far its top lies below the aircraft, in metres.
     static irr::video::SColor calcColor(double metresBelow);
+    bool isPotentiallyRenderable3D(int index, Map3D* map, const char* staticBytes) override;
+    void render3D(const IChartElement* element, Map3D* map, int index) override;
 
 private:
     struct Shape {

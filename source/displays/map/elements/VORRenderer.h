@@ -19,6 +19,8 @@ public:
     int getPriority(const IChartElement*) override { return 1000; }
     int getSelectPriority(const IChartElement*) override { return 102410; }
     bool isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) override;
+    bool isPotentiallyRenderable3D(int index, Map3D* map, const char* staticBytes) override;
+    void render3D(const IChartElement* element, Map3D* map, int index) override;
 
 private:
     RendererParts& parts_;
