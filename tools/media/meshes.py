@@ -79,8 +79,10 @@ class Mesh:
             paint = tip_color if tip_color and t1 == 1.0 else color
             quad = [at(1, t0), at(0, t0), at(0, t1), at(1, t1)]
             for sign in (1, -1):
-                self.face([add(p, sign) for p in (quad if sign > 0 else quad[::-1])], paint)
-                self.face([add(p, sign) for p in (quad[::-1] if sign > 0 else quad)], paint)
+                corners = [add(p, sign) for p in quad]
+                normal = cross(minus(corners[1], corners[0]), minus(corners[2], corners[0]))
+                outwards = sum(n * u for n, u in zip(normal, up)) * sign > 0
+                self.face(corners if outwards else corners[::-1], paint)
         self.face([add(root[0], -1), add(root[0], 1), add(tip[0], 1), add(tip[0], -1)], SHADE)
 
     def write(self, path):

@@ -10,7 +10,7 @@
 namespace skyvane {
 namespace {
 
-constexpr double nearestChaseMetres = 60.0;
+constexpr double nearestChaseMetres = 45.0;
 constexpr double degreesPerHeight = 120.0;
 
 } // namespace
