@@ -9,6 +9,7 @@
 #include <ogrsf_frmts.h>
 
 #include <cmath>
+#include <cstring>
 #include <memory>
 
 namespace skyvane {
@@ -209,16 +210,31 @@ private:
     long features_ = 0;
 };
 
-/// GDAL's messages are asked for, not printed.
+/// GDAL's messages are asked for, not printed. Those of OpenStreetMap's relations that lack parts are counted: it drops
+/// them with no more than that.
 class QuietErrors {
 public:
     QuietErrors() {
-        CPLPushErrorHandler(CPLQuietErrorHandler);
+        CPLSetThreadLocalConfigOption("CPL_DEBUG", "OSM");
+        CPLPushErrorHandlerEx(&QuietErrors::take, this);
         CPLErrorReset();
     }
-    ~QuietErrors() { CPLPopErrorHandler(); }
+    ~QuietErrors() {
+        CPLPopErrorHandler();
+        CPLSetThreadLocalConfigOption("CPL_DEBUG", nullptr);
+    }
     QuietErrors(const QuietErrors&) = delete;
     QuietErrors& operator=(const QuietErrors&) = delete;
+
+    long getIncomplete() const { return incomplete_; }
+
+private:
+    static void CPL_STDCALL take(CPLErr kind, CPLErrorNum, const char* text) {
+        if (kind == CE_Debug && std::strstr(text, "has missing ways"))
+            ++static_cast<QuietErrors*>(CPLGetErrorHandlerUserData())->incomplete_;
+    }
+
+    long incomplete_ = 0;
 };
 
 } // namespace
@@ -233,7 +249,12 @@ bool readGround(const std::string& path, const SourceContext& context) {
         context.sink.refuse({path, 0}, "can't be read as ground geometry" + (why.empty() ? why : ": " + why));
         return false;
     }
-    return GroundReader(path, context).read(*source);
+    const bool isRead = GroundReader(path, context).read(*source);
+    if (const long incomplete = quiet.getIncomplete())
+        context.sink.warn({path, 0}, std::to_string(incomplete) +
+                                         " relations reach out of the file and can't be drawn: "
+                                         "at its edge, borders and lakes may be missing");
+    return isRead;
 }
 
 } // namespace skyvane

@@ -68,6 +68,20 @@ TEST_F(GroundSource, TakesOpenStreetMap) {
     EXPECT_NE(element(4).find("additionalData = 80"), std::string::npos) << element(4);
 }
 
+TEST_F(GroundSource, TellsOfRelationsThatReachOutOfTheExtract) {
+    folder.write("cut.osm", R"(<osm version="0.6">
+<node id="1" lat="42.1" lon="1.1"/><node id="2" lat="42.1" lon="1.2"/><node id="3" lat="42.2" lon="1.2"/>
+<way id="10"><nd ref="1"/><nd ref="2"/></way>
+<way id="11"><nd ref="1"/><nd ref="2"/><nd ref="3"/><tag k="highway" v="primary"/></way>
+<relation id="20"><member type="way" ref="10" role="outer"/><member type="way" ref="99" role="outer"/>
+<tag k="type" v="multipolygon"/><tag k="natural" v="water"/></relation>
+</osm>)");
+    const ChartMakerRun run = compile(folder.path("cut.osm"));
+    EXPECT_EQ(run.status, 0);
+    EXPECT_NE(run.error.find("1 relations reach out of the file"), std::string::npos) << run.error;
+    EXPECT_EQ(dump(), "GroundGeometry   42.100000    1.100000  Highway\n");
+}
+
 TEST_F(GroundSource, TakesGeoJsonCutAtTheRegion) {
     const ChartMakerRun run = compile(sourceFolder() + data + "small.geojson", "0.9,41,1.15,43");
     EXPECT_EQ(run.status, 0) << run.error;

@@ -9,6 +9,7 @@
 #include "tools/chartmaker/ChartMakerRun.h"
 
 #include <cmath>
+#include <cstdlib>
 #include <filesystem>
 
 namespace skyvane {
@@ -72,6 +73,31 @@ TEST_F(Relief, joinsItsMeshesWithoutAStep) {
         worst = std::max(worst, std::fabs(static_cast<double>(nearest->position.Y - rim.position.Y)));
     }
     EXPECT_LT(worst, 150.0);
+}
+
+/// Andorra, across the edge of its two tiles; the pictures are kept where SKYVANE_TEST_PICTURES names a folder.
+TEST(RealRelief, hasNoHoles) {
+    const char* data = std::getenv("SKYVANE_DATA");
+    if (!data)
+        GTEST_SKIP() << "no real terrain: SKYVANE_DATA isn't set";
+    const TemporaryFolder folder;
+    const std::string tiles = data + std::string("/terrain/");
+    ASSERT_EQ(ChartMakerRun({"terrain", "--out", folder.path(), "--name", "Pyrenees", tiles + "N42E001.hgt.zip",
+                             tiles + "N41E001.hgt.zip"})
+                  .status,
+              0);
+    ASSERT_EQ(ChartMakerRun({"levels", folder.path()}).status, 0);
+    const char* pictures = std::getenv("SKYVANE_TEST_PICTURES");
+    const std::string out = pictures ? std::string(pictures) : folder.path();
+    for (const Arguments& view : std::vector<Arguments>{{"--at", "1.5,42.02", "--radius", "13", "--out", "seam.png"},
+                                                        {"--at", "1.5,42.4", "--tilt", "30", "--out", "tilted.png"}}) {
+        Arguments arguments{"relief", folder.path()};
+        arguments.insert(arguments.end(), view.begin(), view.end());
+        arguments.back() = out + "/relief-" + arguments.back();
+        const ChartMakerRun run(arguments);
+        EXPECT_EQ(run.status, 0) << run.error;
+        EXPECT_NE(run.out.find("; 0 pixels without ground"), std::string::npos) << run.out;
+    }
 }
 
 TEST_F(Relief, namesWrongArguments) {
