@@ -1,7 +1,7 @@
 // A GDL 90 receiver: framing, check and parse against a plain table check over the same bytes; and what 200 targets
 // cost in a frame.
 #include "Bench.h"
-#include "QuietHost.h"
+#include "support/QuietHost.h"
 
 #include "core/time/Time.h"
 #include "sensors/SensorManager.h"

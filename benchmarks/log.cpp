@@ -1,6 +1,6 @@
 // A log of six hours: opening it against reading the file, and how long a seek takes.
 #include "Bench.h"
-#include "QuietHost.h"
+#include "support/QuietHost.h"
 
 #include "core/time/Time.h"
 #include "sensors/SensorManager.h"

@@ -1,6 +1,6 @@
 // Allocations on the road of a record: its byte form, and a simulator's datagram from the socket to the record.
 #include "Bench.h"
-#include "QuietHost.h"
+#include "support/QuietHost.h"
 
 #include "core/bytes/ByteWriter.h"
 #include "sensors/SensorManager.h"

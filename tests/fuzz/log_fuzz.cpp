@@ -1,8 +1,8 @@
 #include "core/time/Time.h"
-#include "sensors/ISensorHost.h"
 #include "sensors/SensorManager.h"
 #include "sensors/StandardDataFactories.h"
 #include "sensors/log/LogFileSensor.h"
+#include "support/QuietHost.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -12,23 +12,9 @@
 
 using namespace skyvane;
 
-namespace {
-
-class SilentHost : public ISensorHost {
-public:
-    void pumpWindow() override {}
-    void showMessageBox(const std::string&) override {}
-    void setMessage(void*, const std::string&, MESSAGECOLOR, int) override {}
-    void removeMessage(void*) override {}
-    std::string getConfigPath() override { return {}; }
-    void chooseProfile(IniFile&, const std::vector<std::unique_ptr<IConfigOverride>>&) override {}
-};
-
-} // namespace
-
 /// Any bytes as a log: it is indexed, opened, played, looped, sought in. The play position stays a fraction.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t length) {
-    static SilentHost host;
+    static QuietHost host;
     static SensorManager manager(&host);
     static ManualClock clock;
     static const std::string path = "/tmp/skyvane-log-fuzz-" + std::to_string(::getpid());
