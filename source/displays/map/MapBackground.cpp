@@ -43,7 +43,7 @@ bool MapBackground::draw(IChart* chart, const MapView& view, MapBackdrop backdro
 
 bool MapBackground::drawArea(IChart* chart, const MapView& view, int number, int levelsBelow) {
     const IArea* area = chart->getArea(number);
-    if (!area || !area->Overlap(nw_, se_))
+    if (!area || (number != rootArea && !area->Overlap(nw_, se_)))
         return false;
     const MapBox box{area->getNWEdge().longitude, area->getSEEdge().latitude, area->getSEEdge().longitude,
                      area->getNWEdge().latitude};
