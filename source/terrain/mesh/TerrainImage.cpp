@@ -12,6 +12,11 @@ namespace skyvane {
 namespace {
 
 constexpr uint32_t HeightMask = 0xffff;
+/// Of the finest tiles, samples per square kilometre, about.
+constexpr double LeafDensity = 100.0;
+/// A coarse tile stands in for a missing fine one as long as its samples lie so many pixels apart. Beyond that a single
+/// one would become a landscape that isn't there.
+constexpr double CoarsestRatio = 12.0;
 
 /// The rectangle's picture: where its pixels are, and how far apart in metres.
 struct ImageFrame {
@@ -48,9 +53,15 @@ int heightOf(uint32_t pixel) {
     return static_cast<int>(pixel & HeightMask);
 }
 
-/// The rise per metre towards one side, from the pixels beside a place that exist.
+bool isKnown(uint32_t pixel) {
+    return heightOf(pixel) != TerrainImageUnknown;
+}
+
+/// The rise per metre towards one side, from the pixels beside a place that exist; none towards what nobody knows.
 double slope(uint32_t behind, uint32_t ahead, int steps, double metres) {
-    return steps > 0 && metres > 0.0 ? (heightOf(ahead) - heightOf(behind)) / (steps * metres) : 0.0;
+    if (steps < 1 || !(metres > 0.0) || !isKnown(behind) || !isKnown(ahead))
+        return 0.0;
+    return (heightOf(ahead) - heightOf(behind)) / (steps * metres);
 }
 
 void fillNormals(const ImageFrame& frame, uint32_t* pixels) {
@@ -76,18 +87,20 @@ TerrainImageFigures fillTerrainImage(TerrainSampler& terrain, const ChartPositio
     if (width < 1 || height < 1)
         return figures;
     const ImageFrame frame(nw, se, width, height);
+    const double coarsest = std::min(frame.density, LeafDensity) / (CoarsestRatio * CoarsestRatio);
     double sum = 0.0, minimum = HeightMask, maximum = -HeightMask * 1.0;
     for (int row = 0; row < height; ++row)
         for (int column = 0; column < width; ++column) {
-            float metres = terrain.getHeight(frame.at(column, row), frame.density, true, false);
-            if (std::isfinite(metres))
+            const TerrainSampler::Height sample = terrain.sample(frame.at(column, row), frame.density);
+            const bool known = sample.isKnown && (sample.metres == 0.0f || terrain.getAnsweringDensity() >= coarsest);
+            if (known)
                 figures.undefined = false;
-            else
-                metres = 0.0f;
+            const float metres = known ? sample.metres : 0.0f;
             sum += static_cast<double>(metres);
             minimum = std::min(minimum, static_cast<double>(metres));
             maximum = std::max(maximum, static_cast<double>(metres));
-            const int packed = std::clamp(static_cast<int>(metres) + TerrainImageOffset, 0, 0xffff);
+            const int packed =
+                known ? std::clamp(static_cast<int>(metres) + TerrainImageOffset, 1, 0xffff) : TerrainImageUnknown;
             pixels[row * width + column] = ~HeightMask | static_cast<uint32_t>(packed);
         }
     fillNormals(frame, pixels);

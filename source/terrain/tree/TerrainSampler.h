@@ -3,6 +3,8 @@
 #include "terrain/files/TerrainTile.h"
 #include "terrain/tree/TerrainStore.h"
 
+#include <cmath>
+
 namespace skyvane {
 
 /// The heights of MMTerrainNode::getHeight on the root, to the bit, but quicker: as long as places and densities stay
@@ -21,6 +23,12 @@ public:
     Height sample(const ChartPosition& position, double density) {
         const int16_t raw = getRaw(position, density, true);
         return {toHeight(raw, false), raw != NoHeight && raw != MMTerrainNode::MissingTile};
+    }
+    /// Samples per square kilometre of the tile that the last answer came from; 0 without one, and for the root, whose
+    /// own density says nothing.
+    double getAnsweringDensity() const {
+        const double density = last_.answering ? last_.answering->getDensity() : 0.0;
+        return std::isfinite(density) ? density : 0.0;
     }
     float getHeight(const ChartPosition& position, double density, bool interpolate, bool zeroIfMissing) {
         return toHeight(getRaw(position, density, interpolate), zeroIfMissing);

@@ -143,7 +143,7 @@ TEST_F(TerrainMeshes, fillImages) {
     EXPECT_TRUE(none.undefined);
     EXPECT_EQ(none.maximum, 40000.0f);
     EXPECT_EQ(none.minimum, -40000.0f);
-    EXPECT_EQ(pixels[0], 128u << 24 | 128u << 16 | 12000u);
+    EXPECT_EQ(pixels[0], 128u << 24 | 128u << 16 | TerrainImageUnknown) << "not the sea";
 }
 
 TEST(TerrainColor, warns) {
