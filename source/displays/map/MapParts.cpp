@@ -2,6 +2,7 @@
 
 #include "chart/areas/AreaLeaf.h"
 #include "chart/areas/AreaNode.h"
+#include "chart/geodesy/Angles.h"
 #include "chart/store/IChart.h"
 #include "core/Context.h"
 #include "core/log/Logger.h"
@@ -26,6 +27,7 @@ const irr::video::SColor separatorColor(0x80000000);
 
 constexpr double tileSeconds = 0.03;
 constexpr double directSeconds = 300.0;
+constexpr double uprightDegrees = 30.0;
 constexpr double altitudeStepMetres = 76.2;
 constexpr double altitudeArea = 15.0;
 constexpr int liveProcedures = 7;
@@ -163,7 +165,9 @@ void MapParts::drawTiles() {
 }
 
 void MapParts::rebuildWhenDue() {
-    if (hasAltitudeChanged())
+    // Symbols in tiles stand upright for the track that was up when they were drawn.
+    const bool isTurned = std::fabs(AngleDiff(view.getTopTrack(), setTrack_)) > uprightDegrees;
+    if (hasAltitudeChanged() || (isTurned && !tiles.isFilling()))
         timer.markDirty();
     const RebuildTimer::Situation situation{view.getViewArea(), static_cast<double>(settings.maxElementDrawArea),
                                             gestures.isPinching(),
@@ -180,6 +184,7 @@ void MapParts::beginSet() {
     drawnOnce.clear();
     labels.beginSet();
     checkedAltitude_ = map.getAltitude();
+    setTrack_ = view.getTopTrack();
     if (!tiles.isFilling())
         setStart_ = Secs();
     tiles.begin(view);

@@ -90,6 +90,7 @@ private:
     bool wasBackgroundDrawn_ = false;
     double checkedAltitude_ = 0.0;
     double setStart_ = 0.0;
+    double setTrack_ = 0.0; ///< What lay at the top when the last set began.
 };
 
 } // namespace skyvane
