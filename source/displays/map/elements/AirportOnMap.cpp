@@ -20,7 +20,7 @@ constexpr float nearLabel = 1.1f, farLabel = 0.55f; ///< As of ElementLabel.
 constexpr double largestElevationArea = 0.6, largestNumberArea = 0.05;
 /// A sketch is at least that large, as a share of a symbol.
 constexpr double leastSketch = 0.75;
-constexpr double farSymbol = 0.72;
+constexpr double farSymbol = 0.75;
 constexpr double degreesPerRadian = 57.29577951308232;
 const irr::video::SColor labelColor(0xffffffff), labelBackground(0xff1b2027), quietBackground(0xff404040),
     numberColor(0xffffffff);
@@ -45,6 +45,16 @@ const char* symbolOf(const AirportElement& airport) {
     if (airport.hasGliders)
         return "airport_glider";
     return airport.isPrivate ? "airport_private" : "airport";
+}
+
+constexpr double unimportant = 0.7;
+constexpr float unimportantLabel = 0.75f;
+
+/// What matters less takes less room: of fields without a runway next to nothing is known.
+double importanceOf(const AirportElement& airport) {
+    if (airport.isTowered || airport.isMilitary)
+        return 1.0;
+    return airport.runways.empty() || airport.isClosed ? 0.66 : 0.85;
 }
 
 /// Room for a runway in the middle of the symbol.
@@ -75,7 +85,8 @@ AirportRenderer::Placed AirportRenderer::place(const AirportElement& airport, co
     placed.affine = affineOf(map, intoRTT);
     placed.middle = placed.affine.toPixels(airport.position);
     const AirportSketch* sketch = airport.getSketch();
-    placed.edge = map.getElementSizePx() * (map.getViewArea() > largestFullLabelArea ? farSymbol : 1.0);
+    placed.edge =
+        map.getElementSizePx() * importanceOf(airport) * (map.getViewArea() > largestFullLabelArea ? farSymbol : 1.0);
     placed.isSketch =
         sketch && !sketch->getStrips().empty() && map.getViewArea() <= largestSketchArea && !airport.isClosed;
     if (!placed.isSketch)
@@ -153,9 +164,10 @@ void AirportRenderer::render2DText(const IChartElement* element, Map2D* map, int
     std::string text = airport.ident.empty() ? airport.name : airport.ident;
     if (area <= largestElevationArea && airport.elevationFeet != AirportElement::UnknownElevation)
         text += "  " + toText(displayedAltitude(airport.elevationFeet, map->isMetric()));
+    const float scale = labelUnit * (area > largestFullLabelArea ? farLabel : nearLabel) *
+                        (importanceOf(airport) < unimportant ? unimportantLabel : 1.0f);
     const bool isQuiet = airport.isClosed || airport.isPrivate || airport.isHeliport;
-    map->addRGDText(index, text, airport.position, -60.0, labelColor,
-                    labelUnit * (area > largestFullLabelArea ? farLabel : nearLabel), {edge, edge},
+    map->addRGDText(index, text, airport.position, -60.0, labelColor, scale, {edge, edge},
                     isQuiet ? quietBackground : labelBackground, isMain(airport) || map->isProcedureTarget(index));
     const float size = 1.6f * map->getElementSizePx();
     if (hasWeather)

@@ -2,12 +2,15 @@
 
 #include "chart/elements/AirspaceElement.h"
 #include "core/Context.h"
+#include "core/text/Utf8.h"
 #include "displays/PanelManager.h"
+#include "displays/drawing/Drawer2D.h"
 #include "displays/map/Map2D.h"
 #include "displays/map/elements/MapDrawing.h"
 #include "displays/map/elements/RendererParts.h"
 #include "displays/mapmath/elements/AirspaceStyles.h"
 #include "displays/mapmath/elements/OutlineSketch.h"
+#include "gui/font/FlexibleFont.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,6 +22,7 @@ namespace {
 constexpr float lineWidth = 0.0037947f; ///< Of the root of the screen's pixels.
 constexpr double bandWidth = 11.0;      ///< In thousandths of it.
 constexpr double rimWidth = 0.9;        ///< Likewise: red lines show on red ground by their dark rim.
+constexpr double sideFill = 0.25;
 constexpr uint32_t rimColor = 0x80000000;
 constexpr double fineStep = 0.7, coarseStep = 4.0;
 constexpr double largestLabelArea = 3.0, leastLabelled = 110.0;
@@ -122,6 +126,24 @@ int AirspaceRenderer::getSelectPriority(const IChartElement* element) {
 
 bool AirspaceRenderer::isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) {
     return filterOf(*map, index).showsAirspace(staticBytes, irrelevant_.data(), map->getAirspacesBelowFeet());
+}
+
+void AirspaceRenderer::renderSide(const IChartElement* element, const irr::core::rect<int>& rect) {
+    if (rect.getWidth() < 1 || rect.getHeight() < 1)
+        return;
+    const auto& airspace = static_cast<const AirspaceElement&>(*element);
+    const uint32_t argb = airspaceStyle(airspace.airspaceClass).argb;
+    Drawer2D& drawer = *parts_.context->getDrawer();
+    drawer.drawFilledRect(rect, irr::video::SColor(withAlpha(argb, sideFill)));
+    drawer.drawOutline(rect, irr::video::SColor(argb), 2);
+    FlexibleFont* font = parts_.context->getFlexibleFont();
+    if (!font)
+        return;
+    const bool metric = parts_.context->getPanelManager()->isMetric();
+    const std::wstring text = decodeUtf8(airspace.airspaceClass + "  " + airspaceLimits(airspace, metric));
+    const irr::core::dimension2d<irr::u32> size = font->getDimension(text.c_str());
+    if (static_cast<int>(size.Width) < rect.getWidth() && static_cast<int>(size.Height) < rect.getHeight())
+        font->draw(text.c_str(), rect, labelColor, true, false, &rect);
 }
 
 } // namespace skyvane

@@ -26,6 +26,10 @@ public:
     void OnPreRender2D() override;
     bool isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) override;
 
+    /// A slice of the airspace in a side view: the rectangle between its limits, in pixels of the current viewport,
+    /// with class and limits where there is room.
+    void renderSide(const IChartElement* element, const irr::core::rect<int>& rect);
+
     /// The colour of the outline, its width in pixels on a map, and how broad the band is, 1 for the usual.
     static void calcColor(const IChartElement* element, const Map2D& map, irr::video::SColor& color, float& width,
                           float& bandFactor);

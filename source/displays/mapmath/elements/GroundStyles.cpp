@@ -26,7 +26,7 @@ constexpr GroundStyle styles[GroundGeometryElement::FeatureCount] = {
     {0xff3c4658, 0xff1f2733, 0, 1.0f, 1.0f, Pattern::Plain, 10, 0.03f, 0.03f},         // terminal
     {0xffc3c8ce, 0xff2f6fd0, 0, 1.0f, 1.2f, Pattern::Plain, 12, 0.03f, 0.03f},         // helipad
     {0xff566072, 0xff2b333f, 0, 1.0f, 1.0f, Pattern::Plain, 11, 0.03f, 0.03f},         // hangar
-    {0xfff1cf73, 0xfff1cf73, 0xff74501f, 1.7f, 1.0f, Pattern::Plain, 40, 60.0f, 5.0f}, // highway
+    {0xffffc860, 0xffffc860, 0xff6b3f12, 1.7f, 1.0f, Pattern::Plain, 40, 60.0f, 5.0f}, // highway
     {0xff2d3036, 0xff2d3036, 0, 1.2f, 1.0f, Pattern::Sleepers, 45, 15.0f, 15.0f},      // railway
     {0xff3f7fc4, 0xff2f6db3, 0, 1.5f, 1.1f, Pattern::Plain, 70, 60.0f, 5.0f},          // river
     {0, 0xff17375e, 0, 1.6f, 1.6f, Pattern::Plain, 60, 10000.0f, 10000.0f},            // coastline
@@ -37,7 +37,7 @@ constexpr GroundStyle styles[GroundGeometryElement::FeatureCount] = {
     border,
     border,
     {0xff3a3d43, 0xffe8e9eb, 0, 1.6f, 0.7f, Pattern::Plain, 15, 0.3f, 0.1f},  // runway
-    {0xc0ecc95a, 0xff9b7a28, 0, 0.9f, 0.7f, Pattern::Plain, 90, 15.0f, 1.5f}, // built-up areas and others
+    {0x98f4e3a6, 0x908a7440, 0, 0.9f, 0.7f, Pattern::Plain, 90, 15.0f, 1.5f}, // built-up areas and others
 };
 
 constexpr uint8_t helipad = 7, highway = 9, railway = 10, river = 11, coastline = 12, lake = 13, firstBorder = 14,

@@ -192,7 +192,7 @@ TEST_F(ElementsOnMap, eachKindHasItsSymbolAtItsPlace) {
     EXPECT_GT(around(0.1, -0.25, 0xff3c96e1), 30);
     EXPECT_GT(around(0.3, 0.08, 0xfff700f7), 60);
     EXPECT_GT(around(0.0, -0.15, 0xff3f7fc4, 10), 300); // all of the lake
-    EXPECT_GT(around(0.2, 0.26, 0xfff1cf73, 20, 70), 20);
+    EXPECT_GT(around(0.2, 0.26, 0xffffc860, 20, 70), 20);
 
     EXPECT_TRUE(isHit(airport, 5, 3));
     EXPECT_FALSE(isHit(airport, 80, 3));
