@@ -57,6 +57,8 @@ void ProcedureScreen::processEvent(const irr::SEvent& event) {
     if (event.EventType != irr::EET_GUI_EVENT || state_ != State::Open)
         return;
     gui_->Update(event.GUIEvent);
+    if (event.GUIEvent.EventType == irr::gui::EGET_EDITBOX_ENTER) // takes the keys from the screen
+        context_.getIrrlichtDevice()->getGUIEnvironment()->setFocus(window_.get());
     if (isClickOf(event, element(form_.back)))
         state_ = State::Left;
     else if (isClickOf(event, element(form_.help)))

@@ -11,7 +11,7 @@ namespace skyvane {
 namespace {
 
 /// Beyond a runway that fills it, an arrow of a fifth of the picture has room in any direction.
-constexpr double sketchShare = 0.72;
+constexpr double sketchShare = 0.7;
 
 /// That of the element when it was read from a chart, or one made for the call.
 template <class Use>

@@ -128,6 +128,12 @@ TEST(DestinationSearch, distanceText) {
     EXPECT_EQ(DestinationSearch::distanceText(std::nullopt, own), "Distance [NM]: n/A\nBearing [°]: n/A");
 }
 
+TEST(DestinationSearch, hintsAreForWhatWasAskedFor) {
+    EXPECT_NE(DestinationSearch::hintText("").find("Type"), std::string::npos);
+    EXPECT_EQ(DestinationSearch::hintText(DestinationSearch::NearestText), "No airport within 50 NM.");
+    EXPECT_NE(DestinationSearch::hintText(DestinationSearch::RecentText), DestinationSearch::hintText("x"));
+}
+
 } // namespace
 
 } // namespace skyvane
