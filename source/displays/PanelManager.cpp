@@ -136,7 +136,7 @@ void PanelManager::RenderAfterGUI() {
             setMessage(joined->text, irr::video::SColor(messageBoxColor(joined->level)),
                        irr::video::SColor(messageTextColor), messageRenewalMilliseconds, false);
     }
-    if (!messagesDisabled_)
+    if (isMessageBoxShown())
         messageBox_->render();
     if (overlays_)
         overlays_->render();
@@ -181,7 +181,7 @@ bool PanelManager::processEventOverDialog(const irr::SEvent& event) {
 }
 
 bool PanelManager::processMessageBoxEvent(const irr::SEvent& event) {
-    if (messagesDisabled_ || event.EventType != irr::EET_MOUSE_INPUT_EVENT || !messageBox_->isVisible())
+    if (!isMessageBoxShown() || event.EventType != irr::EET_MOUSE_INPUT_EVENT || !messageBox_->isVisible())
         return false;
     const MessageBox::Answer answer = messageBox_->processMouse(event.MouseInput);
     if (answer == MessageBox::Answer::Dismissed)

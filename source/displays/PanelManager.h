@@ -158,6 +158,8 @@ private:
     void renderPage();
     void renderPageNumber();
     void notePage();
+    /// While messages are off, the one of before stays out of sight too.
+    bool isMessageBoxShown() const { return !messagesDisabled_ && board_.isAccepting(); }
     bool processMessageBoxEvent(const irr::SEvent& event);
     bool processOverlayEvent(const irr::SEvent& event);
     bool processManualEvent(const irr::SEvent& event);

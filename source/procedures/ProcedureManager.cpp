@@ -248,7 +248,20 @@ void ProcedureManager::OnHeightPoints(PointCall& call) {
 }
 
 bool ProcedureManager::newProcedure(const IChartElement* element, int id, bool keepsProcedure) {
-    return ChooseProcedureScreen(*context_, element, id, keepsProcedure).run();
+    std::unique_ptr<IProcedure> made;
+    {
+        ChooseProcedureScreen screen(*context_, element, id, keepsProcedure);
+        if (!screen.run())
+            return false;
+        made = screen.takeProcedure();
+    }
+    // Messages are on again: what the new path warns of is heard.
+    if (made) {
+        addProcedureAfterCurrent(std::move(made));
+        calculateCourseList();
+    }
+    logText("New procedure: " + getCurrentProcedure()->getName() + "\n");
+    return true;
 }
 
 void ProcedureManager::insertFlightPlan(IniFile& document, const std::string& name) {

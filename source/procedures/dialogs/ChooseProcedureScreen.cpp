@@ -5,10 +5,10 @@
 #include "displays/PanelManager.h"
 #include "gui/skin/Skin.h"
 #include "gui/windows/Questions.h"
-#include "procedures/ProcedureManager.h"
 #include "procedures/dialogs/PreviewPane.h"
 #include "procedures/dialogs/ProcedureDocuments.h"
 #include "procedures/dialogs/SearchBoxHandler.h"
+#include "procedures/framework/IProcedureFactory.h"
 
 namespace skyvane {
 
@@ -58,15 +58,13 @@ bool ChooseProcedureScreen::onNext() {
     const bool isHere = search_.isAtPresentPosition();
     const bool isWanted =
         line.factory->setup(line, charts && !isHere ? charts->getChartElement(line.chartIndex) : nullptr);
-    std::unique_ptr<IProcedure> procedure = isWanted ? line.factory->Create() : nullptr;
-    if (!procedure) {
+    made_ = isWanted ? line.factory->Create() : nullptr;
+    if (!made_) {
         takeGlass();
         if (isWanted)
             tellInBox(context_, L"The charts don't know this place any more.");
         return false;
     }
-    context_.getProcedureManager()->addProcedureAfterCurrent(std::move(procedure));
-    context_.getProcedureManager()->calculateCourseList();
     search_.finish();
     return true;
 }
