@@ -5,6 +5,7 @@ import time
 
 from cockpit import ROOT, Cockpit
 from dials import Dial, panel_area, red, yellow
+from glass import GREEN, Glass
 from run_tests import smoke
 
 DEMO = open(os.path.join(ROOT, 'tools/demo/config.ini')).read()
@@ -34,8 +35,15 @@ def hold(cockpit, protocol, **state):
 
 
 def dismiss_box(cockpit):
-    time.sleep(1.5)
-    cockpit.key('Return')
+    """Answers the box that says that nothing shown is real, however long it takes to come and go."""
+    glass = Glass(cockpit)
+    cockpit.wait(lambda: glass.coloured(GREEN), 20, 'the box')
+
+    def is_gone():
+        cockpit.key('Return')
+        time.sleep(0.4)
+        return not glass.coloured(GREEN)
+    cockpit.wait(is_gone, 20, 'the box to go')
 
 
 def check_state(cockpit, build, pitch, roll, heading, altitude_ft, ias_kt, vs_fpm, name):
