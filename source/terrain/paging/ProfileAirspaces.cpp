@@ -1,7 +1,6 @@
 #include "terrain/paging/ProfileAirspaces.h"
 
 #include "chart/areas/AreaLeaf.h"
-#include "chart/areas/AreaQueries.h"
 #include "chart/elements/AirspaceElement.h"
 #include "chart/geodesy/Angles.h"
 #include "chart/store/IChartElementSource.h"
@@ -31,15 +30,13 @@ void addAirspaces(const AreaLeaf& leaf, std::set<int>& ids) {
 
 } // namespace
 
-void ProfileAirspaces::prepare(const std::vector<ChartPosition>& positions, IChartElementSource& chart) {
+void ProfileAirspaces::prepare(const std::vector<ChartPosition>& positions, const std::map<int, bool>& leafs,
+                               IChartElementSource& chart) {
     chart_ = &chart;
     positions_ = positions;
     stretches_.clear();
     next_ = 0;
     isOpen_ = false;
-    std::map<int, bool> leafs;
-    for (const ChartPosition& position : positions_)
-        hlp_findAreas(0, chart_, position, leafs);
     std::set<int> ids;
     for (const auto& [index, found] : leafs)
         if (const AreaLeaf* leaf = found ? chart_->getArea(index)->asLeaf() : nullptr)

@@ -3,6 +3,7 @@
 #include "chart/geodesy/ChartPosition.h"
 
 #include <cstddef>
+#include <map>
 #include <vector>
 
 namespace skyvane {
@@ -11,7 +12,7 @@ class IChartElementSource;
 
 /// Finds the airspaces that a row of positions leads through, a slice of time at a frame.
 ///
-///     airspaces.prepare(positions, chart);
+///     airspaces.prepare(positions, leafs, chart);
 ///     ... airspaces.run(0.02) ... until it is true
 ///     airspaces.finish();
 ///     airspaces.getStretches()
@@ -27,9 +28,10 @@ public:
         size_t last;
     };
 
-    /// Gathers what lies in the leaves that the positions lie in; no airspace is read yet. The chart outlives the
-    /// search.
-    void prepare(const std::vector<ChartPosition>& positions, IChartElementSource& chart);
+    /// Gathers what lies in the leaves of the area tree that hold the positions; no airspace is read yet. The chart
+    /// outlives the search.
+    void prepare(const std::vector<ChartPosition>& positions, const std::map<int, bool>& leafs,
+                 IChartElementSource& chart);
     /// Goes on for about so many seconds. True once all is found.
     bool run(double seconds);
     /// Puts what was found in order, and keeps nothing else.

@@ -35,7 +35,7 @@ struct PointCall {
 
     // The search for airspaces, on the main thread, a slice of time at a frame.
 
-    void prepareAirspaceFill(IChartElementSource* chart) { airspaces.prepare(positions, *chart); }
+    void prepareAirspaceFill(IChartElementSource* chart) { airspaces.prepare(positions, findAreas(chart), *chart); }
     /// True once all are found.
     bool continueAirspaceFill(double seconds) { return airspaces.run(seconds); }
     void finishAirspaceFill() { airspaces.finish(); }
