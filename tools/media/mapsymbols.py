@@ -1,14 +1,15 @@
 #!/usr/bin/env python3
 """Writes media/drawings/map_*.svg: the symbols of chart elements on the map.
 
-    tools/media/mapsymbols.py media/drawings
+    tools/media/mapsymbols.py media/drawings [media/doc/pictures]
 
-The drawings are committed; run this again only to change them. A symbol is 96 units wide and white, to be drawn in a
+With a second folder also the pictures of the manual's legend, by rsvg-convert. The drawings are committed; run this again only to change them. A symbol is 96 units wide and white, to be drawn in a
 colour; most come with a halo, the same shape grown, to be drawn under it in white or in a dark colour, so that they
 show on water, forest and snow alike.
 """
 import math
 import pathlib
+import subprocess
 import sys
 
 WHITE, DARK = "#ffffff", "#10141a"
@@ -174,15 +175,49 @@ def write(folder, name, content, size=96, units=96):
         f'viewBox="{-units / 2:g} {-units / 2:g} {units:g} {units:g}">{content}</svg>\n')
 
 
+# --- The manual's legend ---------------------------------------------------------------------------------------------
+
+BLACK, GREEN, BLUE, VOR, NDB, FIX, GROUND = "#000000", "#008000", "#0000ff", "#0000ff", "#fa6cff", "#33f8ff", "#518949"
+RUNWAY = '<path fill="#ffffff" transform="rotate(40)" d="M-5.5 -20H5.5V20H-5.5Z"/>'
+LEGEND = {  # name: symbol, colour, dark halo, what lies on it
+    "towered": ("map_airport_towered", BLACK, False, RUNWAY), "field": ("map_airport", BLACK, False, RUNWAY),
+    "grass": ("map_airport", GREEN, False, RUNWAY), "water": ("map_airport_water", BLUE, False, ""),
+    "glider": ("map_airport_glider", GREEN, False, ""), "heliport": ("map_heliport", BLACK, False, ""),
+    "private": ("map_airport_private", BLACK, False, ""), "military": ("map_airport_military", BLACK, False, RUNWAY),
+    "closed": ("map_airport_closed", BLACK, False, ""), "vor": ("map_vor", VOR, False, ""),
+    "vordme": ("map_vordme", VOR, False, ""), "vortac": ("map_vortac", VOR, False, ""),
+    "tacan": ("map_tacan", VOR, False, ""), "ndb": ("map_ndb", NDB, True, ""),
+    "reporting": ("map_reporting_point", WHITE, True, ""), "fix": ("map_fix", FIX, True, ""),
+    "mast": ("map_obstacle", "#ff3000", True, ""), "mastlit": ("map_obstacle_tall_lit", "#ffe000", True, ""),
+    "mastgroup": ("map_obstacle_group", "#00ff00", True, ""),
+}
+
+
+def legend(folder, symbols):
+    def picture(name, content):
+        ground = f'<rect x="-48" y="-48" width="96" height="96" rx="10" fill="{GROUND}"/>'
+        drawing = (f'<svg xmlns="http://www.w3.org/2000/svg" width="144" height="144" viewBox="-48 -48 96 96">'
+                   f'{ground}{content}</svg>')
+        subprocess.run(["rsvg-convert", "-o", str(folder / f"symbol-{name}.png")], input=drawing.encode(), check=True)
+
+    for name, (symbol, color, dark, over) in LEGEND.items():
+        halo = symbols[symbol].halo().replace(WHITE, DARK if dark else WHITE)
+        picture(name, halo + (symbols[symbol].svg() + over).replace(WHITE, color))
+    picture("mark", f'<g transform="translate(-8 18)">{flag()}</g>')
+
+
 def main():
     folder = pathlib.Path(sys.argv[1])
-    for name, symbol in {**AIRPORTS, **NAVAIDS, **FIXES, **OBSTACLES}.items():
+    symbols = {**AIRPORTS, **NAVAIDS, **FIXES, **OBSTACLES}
+    for name, symbol in symbols.items():
         write(folder, name, symbol.svg())
         write(folder, name + "_halo", symbol.halo())
     write(folder, "map_airport_runway", f'<path fill="{WHITE}" d="M-5.5 -20H5.5V20H-5.5Z"/>')
     write(folder, "map_vor_rose", rose(), 256, 240)
     write(folder, "map_vor_rose_halo", rose(4), 256, 240)
     write(folder, "map_mark", flag())
+    if len(sys.argv) > 2:
+        legend(pathlib.Path(sys.argv[2]), symbols)
 
 
 if __name__ == "__main__":

@@ -4,6 +4,7 @@
 #include "displays/PanelManager.h"
 #include "gui/hypertext/CHyperTextElement.h"
 #include "gui/hypertext/ManualWindow.h"
+#include "gui/hypertext/markup/ParseHypertext.h"
 #include "gui/skin/Skin.h"
 #include "gui/windows/Help.h"
 #include "support/AllocationCounter.h"
@@ -60,6 +61,18 @@ TEST(ManualPages, EachLinkAndPictureIsThereAndEachPageCanBeReached) {
             EXPECT_TRUE(fs::exists(manualFolder() / picture)) << page << " shows " << picture;
     }
     EXPECT_EQ(manualPages(), reached);
+}
+
+/// What stands behind a page's end isn't shown: one end too many, and the rest of the page is lost.
+TEST(ManualPages, EachIsReadToItsEnd) {
+    for (const std::string& page : manualPages()) {
+        const std::string text = contentOf(manualFolder() / page);
+        const std::unique_ptr<IDocElement> read = parseHypertext(text);
+        ASSERT_TRUE(read) << page;
+        EXPECT_EQ(namesIn(read->toHTML(), R"re(<a href="([^"]*)")re").size(),
+                  namesIn(text, R"re(\\L"([^"]*)")re").size())
+            << page;
+    }
 }
 
 TEST(ManualPages, ThereIsOneForEachHelpButton) {

@@ -69,6 +69,8 @@ void AirspaceRenderer::render2D(const IChartElement* element, Map2D* map, int in
         return;
     const MapAffine affine = affineOf(*map, intoRTT);
     const ShapeRect view = viewOf(*map, intoRTT);
+    if (!canSee(affine, airspace.getBounds(), view))
+        return;
     const bool isDetailed = map->getViewArea() <= largestDetailedAirspaceArea;
     affine.project(airspace.vertices, path_);
     thinOut(path_, isDetailed ? fineStep : coarseStep, thinned_);

@@ -43,6 +43,8 @@ void GroundGeometryRenderer::render2D(const IChartElement* element, Map2D* map, 
     const auto& ground = static_cast<const GroundGeometryElement&>(*element);
     const MapAffine affine = affineOf(*map, intoRTT);
     const ShapeRect view = viewOf(*map, intoRTT);
+    if (!canSee(affine, ground.getBounds(), view))
+        return;
     const GroundStyle& style = groundStyle(ground.feature);
     affine.project(ground.vertices, path_);
     thinOut(path_, fineStep, thinned_);

@@ -13,6 +13,7 @@ namespace {
 
 constexpr double fingerShare = 0.35; ///< Of the shared unit of symbols.
 constexpr double farPixels = 30000.0;
+constexpr double linePixels = 64.0;
 
 Drawer2D::Position toPosition(const ShapePoint& point) {
     const auto whole = [](double value) {
@@ -56,6 +57,12 @@ float pixelsOf(const Map2D& map, double thousandths) {
 
 MapFilter filterOf(const Map2D& map, int index) {
     return {map.getViewArea(), map.getSwitches(), map.isProcedureTarget(index)};
+}
+
+bool canSee(const MapAffine& affine, const PointBounds& bounds, const ShapeRect& view) {
+    const ShapeRect wide(view.UpperLeftCorner - ShapePoint(linePixels, linePixels),
+                         view.LowerRightCorner + ShapePoint(linePixels, linePixels));
+    return bounds.isArea && affine.canSee(bounds.northWest, bounds.southEast, wide);
 }
 
 void drawTurnedSymbol(Map2D& map, const ElementSymbol& symbol, const ShapePoint& middle, double edge,

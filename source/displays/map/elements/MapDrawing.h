@@ -1,5 +1,6 @@
 #pragma once
 
+#include "chart/elements/PointBounds.h"
 #include "displays/map/elements/RendererParts.h"
 #include "displays/mapmath/elements/ElementFilter.h"
 #include "displays/mapmath/elements/MapAffine.h"
@@ -20,6 +21,9 @@ ShapeRect viewOf(const Map2D& map, bool intoRTT);
 /// Widths of lines and the like, in pixels: thousandths of the root of the screen's pixels.
 float pixelsOf(const Map2D& map, double thousandths);
 MapFilter filterOf(const Map2D& map, int index);
+
+/// Whether something within these bounds, with lines and bands of a few pixels, can be seen.
+bool canSee(const MapAffine& affine, const PointBounds& bounds, const ShapeRect& view);
 
 /// A symbol with its middle on a place, `edge` pixels wide, turned counter-clockwise.
 void drawTurnedSymbol(Map2D& map, const ElementSymbol& symbol, const ShapePoint& middle, double edge,

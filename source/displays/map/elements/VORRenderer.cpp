@@ -7,6 +7,8 @@
 #include "displays/map/elements/MapDrawing.h"
 #include "displays/map/elements/RendererParts.h"
 
+#include <cmath>
+
 namespace skyvane {
 
 namespace {
@@ -52,7 +54,8 @@ void VORRenderer::render2D(const IChartElement* element, Map2D* map, int index, 
         return;
     const ShapePoint middle = affine.toPixels(vor.position);
     if (map->getViewArea() <= largestRoseArea && vor.vorType != VORElement::Tacan) {
-        const bool isKnown = vor.magneticVariationDegrees > UnknownVariationBelow;
+        const bool isKnown =
+            std::isfinite(vor.magneticVariationDegrees) && vor.magneticVariationDegrees > UnknownVariationBelow;
         const double north = affine.getTurnDegrees() + (isKnown ? vor.magneticVariationDegrees : 0.0);
         drawTurnedSymbol(*map, parts_.textures.get("vor_rose"), middle, reach, {roseColor, roseHalo}, -north);
     }

@@ -23,6 +23,8 @@ struct MapAffine {
     }
     /// Replaces `path`.
     void project(const std::vector<ChartPosition>& vertices, ShapePath& path) const;
+    /// Whether a rectangle of the earth, given by its corners, may be seen in the view.
+    bool canSee(const ChartPosition& northWest, const ChartPosition& southEast, const ShapeRect& view) const;
     /// Pixels a metre, north or south.
     double getPixelsPerMetre() const;
     /// How the picture is turned, in degrees clockwise on the screen: where east points.

@@ -30,6 +30,21 @@ TEST(MapAffine, goesTheShorterWayRound) {
     EXPECT_NEAR(turned.getTurnDegrees(), 90.0, 1e-9);
 }
 
+TEST(MapAffine, seesWhatReachesIntoTheView) {
+    const MapAffine affine = northUp({179.5, 42.0});
+    const ShapeRect view(0.0, 0.0, 1000.0, 800.0);
+    EXPECT_TRUE(affine.canSee({179.0, 42.5}, {-179.0, 41.5}, view));  // across the antimeridian
+    EXPECT_TRUE(affine.canSee({175.0, 60.0}, {-170.0, 20.0}, view));  // all around it
+    EXPECT_FALSE(affine.canSee({160.0, 42.5}, {170.0, 41.5}, view));  // west of it
+    EXPECT_FALSE(affine.canSee({179.0, 60.0}, {-179.0, 50.0}, view)); // north of it
+    EXPECT_TRUE(affine.canSee({-170.0, 90.0}, {100.0, -90.0}, view)); // most of the earth
+    MapAffine turned = affine;
+    turned.east = ShapePoint(0.0, 100.0);
+    turned.north = ShapePoint(140.0, 0.0);
+    EXPECT_TRUE(turned.canSee({181.0, 46.0}, {182.0, 45.0}, view));
+    EXPECT_FALSE(affine.canSee({181.0, 46.0}, {182.0, 45.0}, view));
+}
+
 /// Pixels that triangles cover.
 double areaOf(const ShapeMesh& mesh) {
     double sum = 0.0;
