@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Writes media/drawings/*.svg: sky, the colours of terrain, traffic and the preview of the synthetic view.
+"""Writes media/drawings/*.svg: sky, the colours of terrain, traffic, the pictures of the bars and the preview
+of the synthetic view.
 
     tools/media/vision.py media/drawings
 
@@ -70,10 +71,41 @@ def map3d_preview():
                          '<path d="M88 134H116L128 146L140 134H168" fill="none" stroke="#ffc31f" stroke-width="5"/>' + bars)
 
 
+def pfd_speed_bar():
+    """The ground of a tape, to be tinted: darker towards its ends, a light rim."""
+    fade = stops((0, "#5a5a5a"), (0.35, "#ffffff"), (0.65, "#ffffff"), (1, "#5a5a5a"))
+    return svg(64, 256, f'<linearGradient id="f" x1="0" y1="0" x2="0" y2="1">{fade}</linearGradient>'
+                        '<rect width="64" height="256" fill="url(#f)"/>')
+
+
+def pfd_ptr():
+    """The box of a current value, its point to the right; as wide as 2.4 of its heights."""
+    outline = "M6 8H218L218 34L248 50L218 66L218 92H6Z"
+    return svg(256, 100, f'<path d="{outline}" fill="#05070a" stroke="#ffffff" stroke-width="4" '
+                         'stroke-linejoin="round"/>')
+
+
+def aoa():
+    """From little at the bottom to the stall at the top."""
+    rows = ["#3fd65a"] * 5 + ["#ffe11f"] * 3 + ["#f01c28"] * 2
+    bars = "".join(f'<path d="M14 {236 - 22 * i}L50 {226 - 22 * i}L86 {236 - 22 * i}V{226 - 22 * i}L50 {216 - 22 * i}'
+                   f'L14 {226 - 22 * i}Z" fill="{color}"/>' if i > 7 else
+                   f'<rect x="14" y="{222 - 22 * i}" width="72" height="13" rx="2" fill="{color}"/>'
+                   for i, color in enumerate(rows))
+    return svg(100, 256, '<rect x="2" y="2" width="96" height="252" rx="8" fill="#05070a" fill-opacity="0.78" '
+                         f'stroke="#7d8a9c" stroke-width="2"/>{bars}')
+
+
+def aoa_pointer():
+    return svg(64, 64, '<path d="M6 8L58 32L6 56Z" fill="#ffffff" stroke="#05070a" stroke-width="5" '
+                       'stroke-linejoin="round"/>')
+
+
 def main(folder):
     drawings = {"sky_front": sky_front(), "sky_top": cap(ZENITH, EDGE["sky"]),
                 "sky_bottom": cap(NADIR, EDGE["ground"]), "terrainGradient": terrain_gradient(),
-                "traffic3d": traffic3d(), "map3d_preview": map3d_preview()}
+                "traffic3d": traffic3d(), "map3d_preview": map3d_preview(),
+                "pfdSpeedBar": pfd_speed_bar(), "pfd_ptr": pfd_ptr(), "aoa": aoa(), "aoaPointer": aoa_pointer()}
     for name, drawing in drawings.items():
         (pathlib.Path(folder) / f"{name}.svg").write_text(drawing)
 

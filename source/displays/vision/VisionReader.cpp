@@ -1,5 +1,7 @@
 #include "displays/vision/VisionReader.h"
 
+#include "chart/ExtendedChart.h"
+#include "chart/elements/IChartElement.h"
 #include "core/Context.h"
 #include "core/text/Utf8.h"
 #include "displays/PanelManager.h"
@@ -23,6 +25,7 @@
 #include "sensors/records/VerticalSpeed_Data.h"
 #include "terrain/TerrainManager.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -66,6 +69,10 @@ void readPosition(SensorManager& sensors, VisionReadings& readings) {
 
 void readMotion(SensorManager& sensors, PfdReadings& bars) {
     bars.airSpeedKnots = readValueOf<AirSpeed_Data>(sensors, ISensorData::AirSpeed);
+    DialEvidence air;
+    const auto* airSpeed = readDefault<AirSpeed_Data>(sensors, ISensorData::AirSpeed, air);
+    // A record that was never written (0 at time 0) is no air speed.
+    bars.hasAirSpeed = airSpeed && (airSpeed->value != 0.0 || airSpeed->timeStamp != 0);
     bars.groundSpeedKnots = readValueOf<GroundSpeed_Data>(sensors, ISensorData::GroundSpeed);
     bars.verticalSpeedMetres = readValueOf<VerticalSpeed_Data>(sensors, ISensorData::VerticalSpeed);
     const double filtered = sensors.getFilteredVerticalSpeed();
@@ -82,7 +89,9 @@ void readMotion(SensorManager& sensors, PfdReadings& bars) {
 
 void readAngleOfAttack(SensorManager& sensors, PfdReadings& bars) {
     DialEvidence evidence;
-    if (const auto* record = readDefault<AngleOfAttack_Data>(sensors, ISensorData::AngleOfAttack, evidence)) {
+    const auto* record = readDefault<AngleOfAttack_Data>(sensors, ISensorData::AngleOfAttack, evidence);
+    bars.hasAngleOfAttack = record != nullptr;
+    if (record) {
         bars.angleOfAttack.value = {static_cast<double>(record->angle), static_cast<double>(record->maximum),
                                     record->inParts != 0};
         evidence.finite = std::isfinite(record->angle) && std::isfinite(record->maximum);
@@ -91,8 +100,12 @@ void readAngleOfAttack(SensorManager& sensors, PfdReadings& bars) {
 }
 
 void readAltimeter(SensorManager& sensors, const VisionReadings& vision, PfdReadings& bars) {
+    DialEvidence evidence;
+    readDefaultRecord(sensors, sensors.getIndicatedAltitudeSource(), evidence);
     bars.altitudeMetres.value = sensors.getIndicatedAltitude();
-    bars.altitudeMetres.flag = std::isfinite(bars.altitudeMetres.value) ? vision.trust.altitude : DialFlag::Failed;
+    evidence.finite = std::isfinite(bars.altitudeMetres.value);
+    bars.altitudeMetres.flag = decideDialFlag(evidence);
+    bars.seaLevelHeightMetres = {vision.altitudeMetres, vision.trust.altitude};
     bars.groundMetres = vision.groundMetres;
     bars.seaLevelMillibars = sensors.getSeaLevelPressure();
     bars.isSatelliteAltitude = sensors.getForceGNSSAltitude();
@@ -106,6 +119,39 @@ void readHeadings(SensorManager& sensors, const VisionReadings& vision, PfdReadi
     evidence.finite = record && std::isfinite(record->magneticHeading);
     if (isValueShown(decideDialFlag(evidence)))
         bars.magneticDegrees = static_cast<double>(record->magneticHeading);
+}
+
+/// Asks the charts only when the point is another.
+void readFixName(Context& context, const IProcedure& procedure, PfdReadings::NextFix& fix) {
+    if (procedure.getLocationType() != ProcedureLocation::ChartElement) {
+        fix.name[0] = L'\0';
+        return;
+    }
+    if (fix.name[0] && fix.chartIndex == procedure.getLocationChartIndex())
+        return;
+    fix.chartIndex = procedure.getLocationChartIndex();
+    fix.name[0] = L'\0';
+    const IChart* chart = context.getPanelManager()->getChart();
+    const IChartElement* element =
+        chart ? context.getPanelManager()->getChart()->getChartElement(fix.chartIndex) : nullptr;
+    if (!element)
+        return;
+    const std::wstring label = decodeUtf8(element->getIndicatedLabel(false, false));
+    const size_t length = std::min({label.size(), label.find(L'\n'), fix.name.size() - 1});
+    label.copy(fix.name.data(), length);
+    fix.name[length] = L'\0';
+}
+
+void readPlan(Context& context, const VisionReadings& vision, PfdReadings& bars) {
+    const IProcedure* procedure = context.getCurrentProcedure();
+    PfdReadings::NextFix& fix = bars.nextFix;
+    const bool flown = procedure && procedure->getBearing() >= 0.0 && isValueShown(vision.trust.position);
+    bars.bearingDegrees = flown ? std::optional<double>(procedure->getBearing()) : std::nullopt;
+    fix.nauticalMiles = procedure ? procedure->getLength() : -1.0;
+    fix.seconds = procedure ? procedure->getETE() : -1;
+    fix.flag = vision.trust.position;
+    if (procedure)
+        readFixName(context, *procedure, fix);
 }
 
 } // namespace
@@ -137,11 +183,7 @@ void readBars(Context& context, const VisionReadings& vision, PfdReadings& bars)
     readAngleOfAttack(sensors, bars);
     bars.bankDegrees = {vision.hasAttitude ? calcAttitudePose(vision.attitude).rollDegrees : 0.0,
                         vision.trust.attitude};
-    const IProcedure* procedure = context.getCurrentProcedure();
-    const bool flown = procedure && procedure->getBearing() >= 0.0;
-    bars.bearingDegrees = flown ? std::optional<double>(procedure->getBearing()) : std::nullopt;
-    bars.nextFix.nauticalMiles = procedure ? procedure->getLength() : -1.0;
-    bars.nextFix.seconds = procedure ? procedure->getETE() : -1;
+    readPlan(context, vision, bars);
 }
 
 } // namespace skyvane

@@ -20,12 +20,14 @@ struct PfdReadings {
 
     bool metric = false;
 
-    Trusted<double> airSpeedKnots; ///< Indicated; absent where no sensor has it.
+    Trusted<double> airSpeedKnots; ///< Indicated.
+    bool hasAirSpeed = false;      ///< A sensor tells it, whether it can be believed or not.
     Trusted<double> groundSpeedKnots;
     SpeedScale speeds; ///< The marks of the aircraft flown, knots.
 
     Trusted<double> altitudeMetres; ///< As the altimeter shows it.
-    double groundMetres = 0.0;      ///< Of the terrain at the aircraft; infinite where nobody knows it.
+    Trusted<double> seaLevelHeightMetres; ///< Of the aircraft, whatever the altimeter is set to.
+    double groundMetres = 0.0; ///< Of the terrain at the aircraft; infinite where nobody knows it.
     double seaLevelMillibars = 1013.25;
     bool isSatelliteAltitude = false; ///< The QNH doesn't enter it.
 
@@ -45,12 +47,15 @@ struct PfdReadings {
         bool inParts = true; ///< Of a scale; otherwise degrees.
     };
     Trusted<AngleOfAttack> angleOfAttack;
+    bool hasAngleOfAttack = false; ///< A sensor tells it, whether it can be believed or not.
 
     /// The next point of the plan; a length below 0 when there is none.
     struct NextFix {
         double nauticalMiles = -1.0;
         int seconds = -1;               ///< Negative when it can't be told.
-        std::array<wchar_t, 32> name{}; ///< Ends in a NUL.
+        std::array<wchar_t, 32> name{}; ///< Ends in a NUL; empty for a place without one.
+        int chartIndex = 0;             ///< Of the chart element that the name is of.
+        DialFlag flag = DialFlag::Good; ///< Of the position that it was measured from.
     };
     NextFix nextFix;
 };

@@ -1,20 +1,34 @@
 #include "displays/vision/bars/PfdBars.h"
 
+#include "core/Context.h"
+#include "displays/PanelManager.h"
 #include "displays/visionmath/PfdReadings.h"
+#include "displays/visionmath/bars/PfdBarDrawing.h"
+#include "displays/visionmath/bars/PfdLayout.h"
 
 namespace skyvane {
 
-PfdBars::PfdBars(Context* context, const VisionSettings& settings) : context_(context), settings_(settings) {}
+PfdBars::PfdBars(Context* context, const VisionSettings& settings)
+    : context_(context), settings_(settings), painter_(context), pen_(canvas_) {}
+
 PfdBars::~PfdBars() = default;
 
 irr::core::rect<int> PfdBars::getFreeRect(const irr::core::rect<int>& rect) const {
-    const int bar = static_cast<int>(settings_.barSize * rect.getWidth());
-    const int left = settings_.renderSpeedBar ? 2 * bar : 0;
-    const int right = settings_.renderAltBar || settings_.renderVSpeedBar ? 2 * bar : 0;
-    return {rect.UpperLeftCorner.X + left, rect.UpperLeftCorner.Y, rect.LowerRightCorner.X - right,
-            rect.LowerRightCorner.Y};
+    return PfdLayout(rect, settings_).free;
 }
 
-void PfdBars::render(const irr::core::rect<int>&, const PfdReadings&) {}
+void PfdBars::render(const irr::core::rect<int>& rect, const PfdReadings& readings) {
+    const PfdLayout layout(rect, settings_);
+    canvas_.clear();
+    drawPfdBars(pen_, {layout, settings_, readings});
+    painter_.paint(canvas_);
+    qnhRect_ = {};
+    if (settings_.renderAltBar)
+        qnhRect_ = {static_cast<int>(layout.qnh.UpperLeftCorner.X), static_cast<int>(layout.qnh.UpperLeftCorner.Y),
+                    static_cast<int>(layout.qnh.LowerRightCorner.X), static_cast<int>(layout.qnh.LowerRightCorner.Y)};
+    if (settings_.renderAltBar || settings_.renderSpeedBar)
+        context_->getPanelManager()->updateNonMessageYArea(static_cast<int>(layout.groundSpeed.UpperLeftCorner.Y),
+                                                           static_cast<int>(layout.groundSpeed.LowerRightCorner.Y));
+}
 
 } // namespace skyvane

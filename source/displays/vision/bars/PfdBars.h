@@ -1,6 +1,8 @@
 #pragma once
 
+#include "displays/vision/bars/BarPainter.h"
 #include "displays/visionmath/VisionSettings.h"
+#include "displays/visionmath/bars/BarPen.h"
 
 #include <irrlicht.h>
 
@@ -9,7 +11,8 @@ namespace skyvane {
 class Context;
 struct PfdReadings;
 
-/// The bars over a synthetic view: speed, altitude, vertical speed, track, bank, angle of attack, and the next fix.
+/// The bars over a synthetic view: speed, altitude, vertical speed and track, with what belongs to them, angle of
+/// attack, and the next fix. What is drawn is laid out on the lower floor.
 ///
 /// Map3D calls render() once a frame when the scene and its symbols are drawn: the screen's viewport is set, the drawer
 /// has nothing to draw. Allocates nothing while the values keep their form. Main thread only.
@@ -32,6 +35,9 @@ public:
 private:
     Context* context_;
     VisionSettings settings_;
+    BarPainter painter_;
+    BarCanvas canvas_;
+    BarPen pen_;
     irr::core::rect<int> qnhRect_;
 };
 
