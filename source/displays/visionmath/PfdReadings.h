@@ -25,9 +25,9 @@ struct PfdReadings {
     Trusted<double> groundSpeedKnots;
     SpeedScale speeds; ///< The marks of the aircraft flown, knots.
 
-    Trusted<double> altitudeMetres; ///< As the altimeter shows it.
+    Trusted<double> altitudeMetres;       ///< As the altimeter shows it.
     Trusted<double> seaLevelHeightMetres; ///< Of the aircraft, whatever the altimeter is set to.
-    double groundMetres = 0.0; ///< Of the terrain at the aircraft; infinite where nobody knows it.
+    double groundMetres = 0.0;            ///< Of the terrain at the aircraft; infinite where nobody knows it.
     double seaLevelMillibars = 1013.25;
     bool isSatelliteAltitude = false; ///< The QNH doesn't enter it.
 
