@@ -48,7 +48,7 @@ bool GroundFill::isOf(const std::vector<ChartPosition>& vertices) const {
 }
 
 void GroundFill::addTo(ShapeMesh& mesh, const MapAffine& affine, uint32_t argb, const ShapeRect& view) const {
-    if (!isDone())
+    if (!isDone() || sweep_.hasFailed())
         return;
     const ShapePoint start = affine.toPixels(first_);
     for (const PolygonSweep::Trapezoid& part : sweep_.getTrapezoids()) {

@@ -16,7 +16,7 @@ public:
     bool advance(uint64_t work) { return sweep_.advance(work); }
     bool isDone() const { return sweep_.isDone(); }
     size_t getSize() const { return sweep_.getTrapezoids().size(); }
-    /// Appends what can be seen. Nothing until it is done.
+    /// Appends what can be seen. Nothing until it is done, and nothing of a polygon too tangled for it.
     void addTo(ShapeMesh& mesh, const MapAffine& affine, uint32_t argb, const ShapeRect& view) const;
 
     /// Whether it was made from these vertices: their number, and some of them.
