@@ -130,12 +130,10 @@ NAVAIDS = {
 # --- Fixes, obstacles, marks -----------------------------------------------------------------------------------------
 
 TRIANGLE = polygon_path(3, 27)
-STAR = "M0 -32L7 -7L32 0L7 7L0 32L-7 7L-32 0L-7 -7Z"
 
 FIXES = {
     "map_fix": Symbol([(TRIANGLE, 6)]),
     "map_reporting_point": Symbol(fills=[TRIANGLE]),
-    "map_fix_rnav": Symbol(fills=[STAR]),
     "map_fix_plain": Symbol([("M-15 -15L15 15M15 -15L-15 15", 7)]),
 }
 

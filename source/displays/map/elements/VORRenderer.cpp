@@ -15,8 +15,8 @@ namespace {
 
 const irr::video::SColor vorColor(0xff0000ff), roseColor(0xe00000ff), roseHalo(0x70ffffff), labelColor(0xffffffff),
     labelBackground(0xff0000a8);
-constexpr double largestRoseArea = 2.5, largestFrequencyArea = 1.0;
-constexpr double roseSize = 3.6; ///< Times the symbol.
+constexpr double largestRoseArea = 1.2, largestFrequencyArea = 1.0;
+constexpr double roseSize = 3.4; ///< Times the symbol.
 
 const char* symbolOf(const VORElement& vor) {
     switch (vor.vorType) {

@@ -20,6 +20,7 @@
 #include "sensors/records/Position_Data.h"
 
 #include <cmath>
+#include <limits>
 
 namespace skyvane {
 namespace {
@@ -55,8 +56,8 @@ protected:
         ASSERT_NE(sensor, nullptr);
         fly(90.0, 1000.0);
     }
-    void fly(double heading, double altitude) {
-        sensor->put<Position_Data>(ISensorData::Position, 0.0, 0.0, 1u);
+    void fly(double heading, double altitude, const ChartPosition& position = {}) {
+        sensor->put<Position_Data>(ISensorData::Position, position.longitude, position.latitude, 1u);
         sensor->put<Heading_Data>(ISensorData::Heading, heading, 1u);
         sensor->put<Altitude_Data>(ISensorData::Altitude, altitude, 1u);
     }
@@ -243,6 +244,48 @@ TEST_F(ElementsOnMap, obstaclesFollowTheAircraftAndTheTrack) {
     ASSERT_EQ(map->getTopTrack(), 90.0);
     EXPECT_NEAR(pixelOf(0.2, 0.0).X, width / 2, 1); // straight ahead is up
     EXPECT_GT(around(0.2, 0.0, 0xff00ff00), 30);
+}
+
+TEST_F(ElementsOnMap, wildElementsAtTheEdgesOfTheEarth) {
+    const double inf = std::numeric_limits<double>::infinity();
+    for (const double latitude : {0.0, 89.7}) {
+        for (const double longitude : {179.9, -179.9})
+            add(at<VORElement>(longitude, latitude));
+        auto vor = at<VORElement>(180.0, latitude);
+        vor->magneticVariationDegrees = static_cast<float>(inf);
+        add(std::move(vor));
+        auto airport = at<AirportElement>(180.0, latitude);
+        airport->runways.resize(3);
+        airport->runways[0].lengthFeet = 4294967295u;
+        airport->runways[0].directionDegrees = 4000000000u;
+        airport->runways[1].ends[0].threshold = {0.0, -90.0};
+        airport->runways[1].ends[0].isThresholdKnown = true;
+        add(std::move(airport));
+        auto mast = at<ObstructionElement>(-179.95, latitude);
+        mast->altitudeMslFeet = -2147483647;
+        add(std::move(mast));
+        add(ground(13, GroundGeometryElement::Polygon,
+                   {{179.9, latitude - 0.2}, {-179.9, latitude}, {179.9, latitude}, {-179.9, latitude - 0.2}}));
+        add(ground(9, 77, {{170.0, latitude}, {-170.0, latitude}}));
+        auto airspace = std::make_unique<AirspaceElement>();
+        airspace->airspaceClass = "no such class";
+        airspace->vertices = {{179.8, latitude - 0.3}, {-179.8, latitude - 0.3}, {179.0, 100.0}, {-540.0, latitude}};
+        add(std::move(airspace));
+    }
+    fly(45.0, 1000.0, {180.0, 0.0});
+    openMap("lowIFR = 1\nairways = 1\n");
+    gl.savePicture("antimeridian.png");
+    EXPECT_GT(around(179.9, 0.0, 0xff0000ff), 60);
+    EXPECT_GT(around(-179.9, 0.0, 0xff0000ff), 60);
+    EXPECT_GT(pixelOf(-179.9, 0.0).X, pixelOf(179.9, 0.0).X);
+    EXPECT_GT(around(180.0, -0.03, 0xff3f7fc4, 8), 20); // the narrow part of a bow tie
+
+    fly(45.0, 1000.0, {180.0, 89.7});
+    zoom(3);
+    zoom(-9);
+    fly(45.0, inf, {inf, -inf});
+    zoom(1);
+    EXPECT_EQ(gl.pixel(2, 2).getAlpha(), 255u);
 }
 
 TEST_F(ElementsOnMap, aHugePolygonIsFilledWhileFramesGoOn) {
