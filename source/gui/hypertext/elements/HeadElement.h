@@ -1,21 +1,19 @@
 #pragma once
 
-#include "gui/hypertext/elements/IDocElement.h"
+#include "gui/hypertext/elements/RestyledElement.h"
 
 namespace skyvane {
 
 /// A heading: its element larger and centred.
-class HeadElement : public IDocElement {
+class HeadElement : public RestyledElement {
 public:
-    explicit HeadElement(std::unique_ptr<IDocElement> child) : child_(std::move(child)) {}
+    using RestyledElement::RestyledElement;
 
     std::string Print(int indent) const override;
-    Rect calcRelativeViewPort(IDocCanvas& canvas, const Style& style, int width) override;
-    void render(const Rect& parent, DocPass& pass) override;
     std::string toHTML() const override;
 
-private:
-    std::unique_ptr<IDocElement> child_;
+protected:
+    Style restyle(const IDocCanvas& canvas, Style style) const override;
 };
 
 } // namespace skyvane

@@ -12,20 +12,11 @@ std::string StyleElement::Print(int indent) const {
            child_->Print(indent + 1);
 }
 
-IDocElement::Rect StyleElement::calcRelativeViewPort(IDocCanvas& canvas, const Style& style, int width) {
-    Style changed = style;
-    changed.textColor = readableColor(change_.color, canvas.getPageColor());
-    changed.centered = change_.centered;
-    changed.applySize(change_.size);
-    const Rect inside = child_->calcRelativeViewPort(canvas, changed, width);
-    relative_ = Rect(0, 0, inside.LowerRightCorner.X, inside.LowerRightCorner.Y);
-    return relative_;
-}
-
-void StyleElement::render(const Rect& parent, DocPass& pass) {
-    const Rect place = placeIn(parent);
-    if (place.isRectCollided(pass.clip))
-        child_->render(place, pass);
+Style StyleElement::restyle(const IDocCanvas& canvas, Style style) const {
+    style.textColor = readableColor(change_.color, canvas.getPageColor());
+    style.centered = change_.centered;
+    style.applySize(change_.size);
+    return style;
 }
 
 std::string StyleElement::toHTML() const {

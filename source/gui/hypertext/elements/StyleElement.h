@@ -1,11 +1,12 @@
 #pragma once
 
-#include "gui/hypertext/elements/IDocElement.h"
+#include "gui/hypertext/elements/RestyledElement.h"
 
 namespace skyvane {
 
-/// Its element in another size and colour, centred or not.
-class StyleElement : public IDocElement {
+/// Its element in another size and colour, centred or not. A colour that can't be told from the page's becomes one that
+/// can.
+class StyleElement : public RestyledElement {
 public:
     struct Change {
         int size = 0;       ///< Exponent of 1.1.
@@ -14,17 +15,16 @@ public:
     };
 
     StyleElement(const Change& change, std::unique_ptr<IDocElement> child)
-        : change_(change), child_(std::move(child)) {}
+        : RestyledElement(std::move(child)), change_(change) {}
 
     std::string Print(int indent) const override;
-    /// A colour that can't be told from the page's becomes one that can.
-    Rect calcRelativeViewPort(IDocCanvas& canvas, const Style& style, int width) override;
-    void render(const Rect& parent, DocPass& pass) override;
     std::string toHTML() const override;
+
+protected:
+    Style restyle(const IDocCanvas& canvas, Style style) const override;
 
 private:
     Change change_;
-    std::unique_ptr<IDocElement> child_;
 };
 
 } // namespace skyvane
