@@ -85,6 +85,7 @@ void FrameLoop::dispatchEvents(const ModalFrame* modal) {
 
 void FrameLoop::draw(const ModalFrame* modal) {
     const bool isPlain = modal && modal->backdrop == ModalFrame::Backdrop::Grey;
+    context_.getInputSystem()->update();
     driver_->beginScene(true, true, isPlain ? plainBackdrop : background_);
     if (!isPlain)
         context_.getPanelManager()->Render();

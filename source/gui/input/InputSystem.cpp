@@ -231,9 +231,12 @@ SColor InputSystem::fadedColor() {
     return color;
 }
 
-void InputSystem::render() {
+void InputSystem::update() {
     followFocus();
     finishFocus();
+}
+
+void InputSystem::render() {
     Drawer2D* drawer = context_->getDrawer();
     drawer->resetViewPort();
     drawer->drawFilledRect(lift_.getBared(), baredColor);

@@ -35,6 +35,8 @@ public:
     bool OnEvent(const irr::SEvent& event) override { return !processEvent(event); }
     /// False when the event is kept: it is neither the panels' nor the GUI's.
     bool processEvent(const irr::SEvent& event);
+    /// Follows the focus, and moves the window of the edit box before the GUI is drawn.
+    void update();
     /// Draws over everything, at the end of a frame.
     void render();
     void setColor(irr::video::SColor color);
