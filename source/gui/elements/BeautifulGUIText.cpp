@@ -1,10 +1,17 @@
 #include "gui/elements/BeautifulGUIText.h"
 
 #include "gui/font/FlexibleFont.h"
+#include "gui/font/MakeShortenedText.h"
 
 #include <algorithm>
 
 namespace skyvane {
+namespace {
+
+/// Of the usual size: smaller letters can't be read at arm's length.
+constexpr float smallestShare = 0.75f;
+
+} // namespace
 
 BeautifulGUIText::BeautifulGUIText(irr::gui::IGUIEnvironment* environment, FlexibleFont* font, const std::wstring& text,
                                    const Look& look, const LayoutWish& wish, int id, void* data)
@@ -15,11 +22,12 @@ BeautifulGUIText::BeautifulGUIText(irr::gui::IGUIEnvironment* environment, Flexi
 void BeautifulGUIText::setText(const wchar_t* text) {
     Text = text ? text : L"";
     text_.set(font_, Text.c_str(), look_.color, look_.centered);
+    room_ = -1;
 }
 
 void BeautifulGUIText::setColor(irr::video::SColor color) {
     look_.color = color;
-    text_.set(font_, Text.c_str(), color, look_.centered);
+    text_.set(font_, text_.getText().c_str(), color, look_.centered);
 }
 
 /// A margin keeps the letters off the rims around.
@@ -31,18 +39,29 @@ irr::core::rect<irr::s32> BeautifulGUIText::place() const {
     return inner;
 }
 
+void BeautifulGUIText::showWhatFits(int room) {
+    if (room == room_)
+        return;
+    room_ = room;
+    const std::wstring whole = Text.c_str();
+    const bool isLine = whole.find(L'\n') == std::wstring::npos;
+    const std::wstring shown = isLine ? makeShortenedText(whole, static_cast<unsigned>(room), font_) : whole;
+    text_.set(font_, shown.c_str(), look_.color, look_.centered);
+}
+
 void BeautifulGUIText::draw() {
     if (!isVisible())
         return;
     const irr::core::rect<irr::s32> area = place();
-    const auto& size = text_.getDimension();
-    if (size.Width > 0 && size.Height > 0) {
-        const float fitting = std::min(static_cast<float>(area.getWidth()) / static_cast<float>(size.Width + 1),
-                                       static_cast<float>(area.getHeight()) / static_cast<float>(size.Height + 1));
+    if (font_ && !Text.empty() && area.getWidth() > 0 && area.getHeight() > 0) {
         const irr::core::vector2d<float>& usual = font_->getDefaultScale();
-        const float scale = std::min({fitting, usual.X, usual.Y});
-        if (scale > 0.0f)
-            text_.draw(area, {scale, scale}, look_.centered, true, &AbsoluteClippingRect);
+        const auto fitting = [](int place, irr::u32 size) {
+            return static_cast<float>(place) / static_cast<float>(size + 1);
+        };
+        const float whole = std::min({usual.X, usual.Y, fitting(area.getHeight(), text_.getDimension().Height)});
+        showWhatFits(static_cast<int>(static_cast<float>(area.getWidth()) * usual.X / (smallestShare * whole)));
+        const float scale = std::min(whole, fitting(area.getWidth(), text_.getDimension().Width));
+        text_.draw(area, {scale, scale}, look_.centered, true, &AbsoluteClippingRect);
     }
     IGUIElement::draw();
 }

@@ -9,8 +9,8 @@ namespace skyvane {
 
 class FlexibleFont;
 
-/// A text as a child of a layout. A text that is too long for its place is drawn smaller, never cut. Nothing is built
-/// or allocated in a frame.
+/// A text as a child of a layout. A text that is too long for its place is drawn smaller as far as it can be read; a
+/// line that is longer still ends in an ellipsis. Nothing is built or allocated in a frame in which nothing changed.
 class BeautifulGUIText : public AggregatableGUIElement {
 public:
     struct Look {
@@ -29,10 +29,12 @@ public:
 
 private:
     irr::core::rect<irr::s32> place() const;
+    void showWhatFits(int room);
 
     FlexibleFont* font_;
     Look look_;
     CachedText text_;
+    int room_ = -1; ///< The width that the shown text was made for, in pixels at the font's default scale.
 };
 
 } // namespace skyvane
