@@ -49,6 +49,8 @@ public:
     unsigned getButtonStyleCount() const { return static_cast<unsigned>(styles_.size()); }
     /// From now on the button is drawn in this style. The style's name becomes the element's name.
     static void setButtonStyle(irr::gui::IGUIElement* button, const char* style) { button->setName(style); }
+    /// The pane of the window covers the whole screen, also where the window itself doesn't.
+    static void setWholeScreen(irr::gui::IGUIElement* window);
 
     /// A plain rounded rectangle in one colour, as rows, tracks and thumbs are drawn; a plain one before loadMedia().
     void drawRow(const Rect& rect, const Rect* clip, irr::video::SColor color) const;

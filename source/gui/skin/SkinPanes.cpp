@@ -3,6 +3,7 @@
 #include "gui/skin/TouchList.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace skyvane {
 
@@ -21,6 +22,8 @@ bool isPartOf(irr::gui::IGUIElement* element, irr::gui::EGUI_ELEMENT_TYPE type) 
 bool isPaneless(irr::gui::IGUIElement* element) {
     return isPartOf(element, irr::gui::EGUIET_SCROLL_BAR) || isPartOf(element, irr::gui::EGUIET_COMBO_BOX);
 }
+
+constexpr const char* wholeScreenName = "wholeScreen";
 
 bool hasText(irr::gui::IGUIElement* element) {
     return element && element->getText() && *element->getText();
@@ -56,6 +59,10 @@ void tidyComboText(irr::gui::IGUIElement* comboBox, SColor color, int distance) 
 }
 
 } // namespace
+
+void Skin::setWholeScreen(irr::gui::IGUIElement* window) {
+    window->setName(wholeScreenName);
+}
 
 SColor Skin::paneTint(SColor color) const {
     SColor tint = brightened(color);
@@ -185,6 +192,12 @@ Skin::Rect Skin::draw3DWindowBackground(Element* element, bool drawTitleBar, SCo
     if (!panes_.normal || checkClientArea)
         return IExtendableSkin::draw3DWindowBackground(element, drawTitleBar, titleBarColor, rect, clip,
                                                        checkClientArea);
+    if (element && std::strcmp(element->getName(), wholeScreenName) == 0) {
+        const Rect screen = environment_->getRootGUIElement()->getAbsolutePosition();
+        drawer_->drawFilledRect(screen, getColor("bg")); // no dial shines through
+        panes_.window->drawTinted(screen, nullptr, paneTint());
+        return rect;
+    }
     Rect around = rect;
     inset(around, -getSize(irr::gui::EGDS_BUTTON_HEIGHT) / 3);
     panes_.shadow->drawFrame(around, nullptr, paneTint());

@@ -2,6 +2,7 @@
 
 #include "core/text/Utf8.h"
 #include "gui/layout/WindowLayout.h"
+#include "gui/skin/Skin.h"
 #include "gui/windows/ExtendedCheckBox.h"
 #include "gui/windows/ExtendedEditBox.h"
 
@@ -50,6 +51,13 @@ IGUIElement* addPlain(IGUIEnvironment* environment, const LayoutElement& layout,
     }
 }
 
+/// Whether a window that was given the screen has but narrow bands beside it.
+bool isNearlyWholeScreen(IGUIEnvironment* environment, const Rect& area, const Rect& window) {
+    constexpr double leastShare = 0.7;
+    return area == environment->getRootGUIElement()->getAbsolutePosition() &&
+           window.getArea() >= leastShare * area.getArea();
+}
+
 std::unique_ptr<ExtendedGUIElement> makeCheckBox(IGUIEnvironment* environment, const LayoutElement& layout,
                                                  const Rect& rect, IGUIElement* parent) {
     irr::gui::IGUICheckBox* box = environment->addCheckBox(false, rect, parent, -1, decodeUtf8(layout.text).c_str());
@@ -79,8 +87,10 @@ std::unique_ptr<ExtendedGUIElement> makeElement(IGUIEnvironment* environment, co
 
 irr::gui::IGUIWindow* addWindowForRatio(IGUIEnvironment* environment, IniFile* document, Rect area, bool modal,
                                         IGUIElement* parent, int id) {
-    irr::gui::IGUIWindow* window =
-        environment->addWindow(windowRect(area, WindowLayout::read(*document).ratio), modal, L"", parent, id);
+    const Rect place = windowRect(area, WindowLayout::read(*document).ratio);
+    irr::gui::IGUIWindow* window = environment->addWindow(place, modal, L"", parent, id);
+    if (isNearlyWholeScreen(environment, area, place))
+        Skin::setWholeScreen(window);
     window->getCloseButton()->setVisible(false);
     window->setDraggable(false);
     window->setDrawTitlebar(false);

@@ -12,7 +12,8 @@ class IniFile;
 struct LayoutElement;
 
 /// An empty window of the document's ratio, as large as the area allows and centred in it: no title, no close button,
-/// not draggable. The window dies with its parent; null as parent is the whole screen.
+/// not draggable. The window dies with its parent; null as parent is the whole screen. A window that nearly fills the
+/// screen is drawn without bands beside it.
 irr::gui::IGUIWindow* addWindowForRatio(irr::gui::IGUIEnvironment* environment, IniFile* document,
                                         irr::core::rect<int> area, bool modal, irr::gui::IGUIElement* parent, int id);
 
