@@ -32,6 +32,7 @@ public:
     void show();
     void hide() { window_->setVisible(false); }
     bool isVisible() const { return window_->isVisible(); }
+    irr::core::rect<int> getRect() const { return window_->getAbsolutePosition(); }
     /// False when the event was the dialog's.
     bool processEvent(const irr::SEvent& event);
 

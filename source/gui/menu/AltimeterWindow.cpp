@@ -48,11 +48,6 @@ AltimeterWindow::AltimeterWindow(Context* context)
     checkBox(element("cautoQnh"))->setChecked(!sensors_->getForceAltimeterFallback());
     checkBox(element("cuseGNSS"))->setChecked(sensors_->getForceGNSSAltitude());
     updateFallbackIndication(0.0);
-    context->getPanelManager()->updateNonMessageYArea(getRect().UpperLeftCorner.Y, getRect().LowerRightCorner.Y);
-}
-
-AltimeterWindow::~AltimeterWindow() {
-    context_->getPanelManager()->clearNonMessageYArea();
 }
 
 void AltimeterWindow::update() {

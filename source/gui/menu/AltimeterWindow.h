@@ -8,11 +8,10 @@ class SensorManager;
 
 /// Sets the altimeter: the sea-level pressure that is used where none is calculated, in steps of millibars and of
 /// inches of mercury, whether it is used at all, and whether the altitude of the satellites is shown instead. What
-/// results stands below. Claims its height of the screen from the messages. Main thread only.
+/// results stands below. Main thread only.
 class AltimeterWindow : public MenuWindow {
 public:
     explicit AltimeterWindow(Context* context);
-    ~AltimeterWindow() override;
 
     void update() override;
 

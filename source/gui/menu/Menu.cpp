@@ -52,6 +52,20 @@ void Menu::render(Rect) {
         column_->update();
     if (window_)
         window_->update();
+    claimMessageSpace();
+}
+
+/// Messages keep clear of what is open, also behind a page's turn, which forgets all claims.
+void Menu::claimMessageSpace() {
+    PanelManager* panels = context_->getPanelManager();
+    const bool isOpen = isShowingOptimizedSettings() || window_;
+    if (isOpen) {
+        const Rect open = isShowingOptimizedSettings() ? presets_->getRect() : window_->getRect();
+        panels->updateNonMessageYArea(open.UpperLeftCorner.Y, open.LowerRightCorner.Y);
+    } else if (hasClaim_) {
+        panels->clearNonMessageYArea();
+    }
+    hasClaim_ = isOpen;
 }
 
 void Menu::open() {

@@ -54,11 +54,13 @@ private:
     bool processBar(const irr::SEvent& event);
     bool processColumn(const irr::SEvent& event);
     bool processPress(const irr::SEvent::SMouseInput& mouse);
+    void claimMessageSpace();
     irr::core::rect<int> previewRect() const;
     bool isPreviewShown() const;
 
     bool colored_;
     bool enabled_ = true;
+    bool hasClaim_ = false; ///< To a part of the screen that messages keep clear of.
     MenuBar bar_;
     std::unique_ptr<MenuColumn> column_;    ///< While it is open.
     std::unique_ptr<PresetDialog> presets_; ///< Null until it is asked for.

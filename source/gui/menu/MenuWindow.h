@@ -27,6 +27,7 @@ public:
     /// The flight plan, its paths or its current procedure are others.
     virtual void OnProcedureChanged() {}
     irr::gui::IGUIWindow* getWindow() const { return window_.get(); }
+    irr::core::rect<int> getRect() const { return window_->getAbsolutePosition(); }
 
 protected:
     enum class Place {
@@ -43,7 +44,6 @@ protected:
     void runOnWholeScreen(const std::function<void()>& run);
     GUI& gui() { return *gui_; }
     irr::gui::IGUIElement* element(const char* id) const { return gui_->getElement(id); }
-    irr::core::rect<int> getRect() const { return window_->getAbsolutePosition(); }
 
     Context* context_;
 
