@@ -71,7 +71,7 @@ void ColorWindow::addButtons(int width, int top) {
     const auto place = [&](int left) { return rect<int>(left, top, left + buttonWidth, top + height); };
     cancel_ = environment_->addButton(place(gap), window_, -1, L"Cancel");
     Skin::setButtonStyle(cancel_, "redNormal");
-    environment_->addButton(place((width - buttonWidth) / 2), window_, -1, L"Help")->setEnabled(false);
+    help_ = environment_->addButton(place((width - buttonWidth) / 2), window_, -1, L"Help");
     ok_ = environment_->addButton(place(width - gap - buttonWidth), window_, -1, L"Ok");
     Skin::setButtonStyle(ok_, "greenNormal");
 }

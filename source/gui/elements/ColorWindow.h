@@ -21,6 +21,8 @@ public:
     Answer processEvent(const irr::SEvent& event);
     irr::video::SColor getColor() const { return color_; }
     irr::gui::IGUIWindow* getWindow() const { return window_; }
+    irr::gui::IGUIButton* getHelpButton() const { return help_; }
+    irr::gui::IGUIButton* getCancelButton() const { return cancel_; }
 
 private:
     static constexpr std::size_t alphaChannel = 3;
@@ -41,6 +43,7 @@ private:
     irr::gui::IGUIWindow* window_ = nullptr;
     std::array<Channel, 4> channels_;
     irr::gui::IGUIButton* ok_ = nullptr;
+    irr::gui::IGUIButton* help_ = nullptr; ///< Its owner opens the page.
     irr::gui::IGUIButton* cancel_ = nullptr;
 };
 

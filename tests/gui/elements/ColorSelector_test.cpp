@@ -2,6 +2,7 @@
 
 #include "core/Context.h"
 #include "core/ModalLoop.h"
+#include "core/events/EventReceiver.h"
 #include "support/GlDevice.h"
 #include "support/SourceFolder.h"
 #include "support/StartAnswers.h"
@@ -78,6 +79,7 @@ protected:
         selector.select(withAlpha);
         context->setFrames(nullptr);
         EXPECT_FALSE(selector.isVisible());
+        EXPECT_EQ(nullptr, context->getEvents()->getBackButton());
         return frames.sliders;
     }
 
