@@ -7,9 +7,13 @@
 namespace skyvane {
 namespace {
 
-void save(const IniFile& document, const std::string& path) {
-    if (!document.Save(path))
-        logText("The changed forwarders could not be saved to " + path + "\n");
+constexpr int saveTroubleMs = 10000;
+
+void save(const IniFile& document, ISensorHost& host) {
+    if (document.Save(host.getConfigPath()))
+        return;
+    logText("The changed forwarders could not be saved to " + host.getConfigPath() + "\n");
+    host.setMessage(&host, "The change could not be saved and ends with this flight.", MESSAGE_YELLOW, saveTroubleMs);
 }
 
 } // namespace
@@ -36,10 +40,9 @@ void SensorManager::addSensorForwarder(int factoryIndex, std::unique_ptr<ISensor
     ISensorForwarderFactory* factory = getForwarderFactory(factoryIndex);
     if (!forwarder || !factory)
         return;
-    const std::string path = host_->getConfigPath();
-    IniFile document(path);
+    IniFile document(host_->getConfigPath());
     const int configIndex = appendForwarderSection(document, factoryIndex, *factory);
-    save(document, path);
+    save(document, *host_);
     forwarders_.push_back({std::move(forwarder), configIndex});
 }
 
@@ -51,10 +54,9 @@ void SensorManager::deleteSensorForwarder(int index) {
     for (LoadedForwarder& later : forwarders_)
         if (later.configIndex > configIndex)
             --later.configIndex;
-    const std::string path = host_->getConfigPath();
-    IniFile document(path);
+    IniFile document(host_->getConfigPath());
     removeForwarderSection(document, configIndex);
-    save(document, path);
+    save(document, *host_);
 }
 
 void SensorManager::setAllForwarderPause(bool paused) {

@@ -202,7 +202,7 @@ void ProfileScreen::showDetails(IConfigOverride& profile) const {
     const std::wstring text = profile.getDescription() + (obstacle.empty() ? L"" : L"\n\n" + obstacle);
     if (!profile.isApplicableWebsiteURL())
         tellInBox(*context_, text);
-    else if (askInBox(*context_, text, profile.getWebsiteButtonLabel(), L"Ok"))
+    else if (askInBox(*context_, text, profile.getWebsiteButtonLabel(), L"Close"))
         context_->gotoURL(profile.getWebsiteURL());
 }
 

@@ -34,7 +34,7 @@ void GDL90SensorFactory::loadSetupFromIni(IniFile* ini, std::string section) {
 
 bool GDL90SensorFactory::setup(IniFile* ini, std::string section) {
     dialogs_->offerNetwork();
-    return editSection(*dialogs_, *ini, section, getName(), Schema, nullptr);
+    return editSection(*dialogs_, *ini, section, getName(), Schema, "Receivers.hti");
 }
 
 std::unique_ptr<ISensor> GDL90SensorFactory::Create() {
