@@ -17,6 +17,10 @@ from PIL import Image  # noqa: E402
 
 from cockpit import Cockpit, end  # noqa: E402
 from dials import panel_area  # noqa: E402
+from glass import Glass  # noqa: E402
+from test_links import SIMULATOR  # noqa: E402
+from test_profiles import Screen, asking, wait_for_screen  # noqa: E402
+from test_touch import Fingers  # noqa: E402
 
 OUT = os.path.join(ROOT, 'media/doc/pictures')
 SIZE = (1280, 720)
@@ -80,12 +84,12 @@ def keep_cells(pixels, panels, only=None, suffix=''):
         keep(cut[:, margin:cut.shape[1] - margin], name + suffix, 300)
 
 
-def flying(config):
+def flying(config, *protocol):
     """A cockpit on a held state, once its dials have come to rest."""
     cockpit = Cockpit(sys.argv[1], config, SIZE)
     cockpit.__enter__()
     start(cockpit)
-    cockpit.feeder = cockpit.feed('--hold', '--state', STATE)
+    cockpit.feeder = cockpit.feed('--hold', '--state', STATE, *protocol)
     time.sleep(9)
     return cockpit
 
@@ -103,31 +107,26 @@ def scene_dials():
             cockpit.__exit__()
 
 
-def menu_row(index):
-    """The middle of a row of the menu's column, counted from 0, before it is scrolled."""
-    height = int(0.049410625 * (SIZE[0] * SIZE[1]) ** 0.5 + 0.5)
-    return 0.12, (height // 8 + (index + 0.5) * (height * 5 // 4)) / SIZE[1]
-
-
 # Their rows in the menu.
-SCREENS = [('flightplan', 0), ('sensors', 1), ('panels', 2), ('aircraft', 3), ('general', 4), ('presets', 5),
-           ('altimeter-settings', 8), ('simulator', 9), ('forwarding', 10)]
+SCREENS = {'flightplan': 'FlightPlan', 'sensors': 'Change Sensors', 'panels': 'Panel Setup',
+           'aircraft': 'Aircraft Setup', 'general': 'General Setup', 'simulator': 'Position Simulator',
+           'presets': 'Apply Optimized Settings', 'altimeter-settings': 'QNH/Altimeter Settings',
+           'forwarding': 'Forwarding'}
 
 
 def scene_screens():
     cockpit = flying(DEMO)
     try:
+        glass = Glass(cockpit)
         keep(cockpit.look(), 'cockpit')
-        click(cockpit, 0.06, 0.968)
+        glass.menu()
         keep(cockpit.look(), 'menu')
-        click(cockpit, 0.06, 0.968)
     finally:
         cockpit.__exit__()
-    for name, row in SCREENS:
+    for name, row in SCREENS.items():
         cockpit = flying(DEMO)
         try:
-            click(cockpit, 0.06, 0.968)
-            click(cockpit, *menu_row(row))
+            Glass(cockpit).open(row)
             time.sleep(0.5)
             keep(cockpit.look(), name)
             if name == 'sensors':
@@ -135,6 +134,52 @@ def scene_screens():
                 keep(cockpit.look(), 'sensors-advanced')
         finally:
             cockpit.__exit__()
+
+
+def scene_keys():
+    """The three ways to type on the screen, in the editor of an aircraft."""
+    cockpit = flying(DEMO)
+    try:
+        glass, fingers = Glass(cockpit), Fingers(cockpit)
+        glass.open('Aircraft Setup')
+        glass.press('gui/windows/documents/listScreen*.ini', 'bedit')
+        for name, row in (('keyboard', 0), ('number-pad', 4)):
+            glass.click(*glass.editor_row(row), pause=1.0)
+            keep(cockpit.look(), name)
+            fingers.leave_edit_box()
+        glass.click(*glass.editor_row(4), pause=1.0)
+        glass.click(glass.button_width / 2, glass.height - glass.button * 3 // 4, pause=1.0)  # the change key
+        keep(cockpit.look(), 'wipe')
+    finally:
+        cockpit.__exit__()
+
+
+def scene_colours():
+    cockpit = flying(DEMO)
+    try:
+        glass = Glass(cockpit)
+        glass.open('General Setup')
+        glass.click(*glass.editor_row(5), pause=1.0)
+        keep(cockpit.look(), 'colours')
+    finally:
+        cockpit.__exit__()
+
+
+def scene_profiles():
+    with asking(sys.argv[1], SIZE) as cockpit:
+        wait_for_screen(cockpit, Screen(SIZE))
+        keep(cockpit.look(), 'profiles')
+
+
+def scene_calibration():
+    config = DEMO.replace(SIMULATOR, 'FactoryIndex = 6\nFactoryName = GDL90\\ compatible\\ device\nport = 4000')
+    cockpit = flying(config, '--protocol', 'gdl90')
+    try:
+        Glass(cockpit).open('Calib.')
+        time.sleep(1)
+        keep(cockpit.look(), 'calibration')
+    finally:
+        cockpit.__exit__()
 
 
 def main():
