@@ -20,6 +20,7 @@ from Xlib import X, XK, display
 from Xlib.ext import xtest
 from Xlib.protocol import event
 
+XK.load_keysym_group('xf86')
 HERE = os.path.dirname(os.path.abspath(__file__))
 ROOT = os.path.dirname(os.path.dirname(HERE))
 

@@ -131,6 +131,16 @@ class Glass:
         height = self.button * 3 // 2
         return self.width * (0.79 if self.height > self.width else 0.72), height + (number + 0.5) * height
 
+    def choose(self, place, row, rows):
+        """Takes a row of a combo box that has so many of them; it opens where there is room."""
+        x, y = place
+        self.click(x, y)
+        upper, lower = y - self.button / 2, y + self.button / 2
+        wanted = rows * self.button + 4
+        is_below = wanted <= self.height - lower or self.height - lower >= upper
+        top = lower if is_below else upper - min(wanted, upper)
+        self.click(x, top + 2 + (row + 0.5) * self.button)
+
     def coloured(self, colour):
         """The middle of the uppermost button of that colour; None where there is none."""
         pixels = self.cockpit.look().astype(int)

@@ -4,7 +4,11 @@ import random
 import shutil
 import time
 
+import numpy
+
 from cockpit import ROOT, Cockpit
+from dials import yellow
+from test_menu import Flight
 
 DEMO = open(os.path.join(ROOT, 'tools/demo/config.ini')).read()
 
@@ -42,6 +46,97 @@ def test_wrong_indices_and_rectangles(build):
         assert before in config, before
         config = config.replace(before, after, 1)
     flies(build, config, name='wrong-rectangles')
+
+
+def test_ten_thousand_panels(build):
+    lines = [line for line in DEMO.split('[P0]')[0].split('\n') if not line.startswith('PanelCount')]
+    config = 'PanelCount = 10000\n' + '\n'.join(lines)
+    for i in range(10000):
+        config += ('\n[P%d]\nFactoryIndex = %d\nPage = %d\nPortrait = 0\nType = SPEED\nViewPortSX = %f\n'
+                   'ViewPortSY = 0\nViewPortTX = %f\nViewPortTY = 1' % (i, i % 20, i % 500, i % 7 / 7, i % 5 / 5))
+    flies(build, config, name='ten-thousand-panels')
+
+
+def test_a_storm_of_keys_and_clicks(build):
+    noise = random.Random(11)
+    keys = ['Return', 'Escape', 'Prior', 'Next', 'Tab', 'BackSpace', 'End', 'a', '7', 'space', 'XF86_Back', 'Left']
+    with Cockpit(build, DEMO, environment={'BROWSER': 'true'}) as cockpit:
+        cockpit.wait_for_window()
+        for _ in range(30):
+            for _ in range(12):
+                if not cockpit.alive():
+                    break
+                if noise.random() < 0.3:
+                    cockpit.key(noise.choice(keys), pause=0.0)
+                else:  # half of them where the menu is
+                    width = cockpit.size[0] * noise.choice((0.25, 1.0))
+                    cockpit.drag((noise.random() * width, noise.random() * cockpit.size[1]),
+                                 (noise.random() * width, noise.random() * cockpit.size[1]), steps=noise.choice((0, 0, 2)))
+        if cockpit.alive():
+            time.sleep(1)
+            cockpit.save(cockpit.look(), 'after-the-storm')
+            assert cockpit.close() == 0, cockpit.output()[-600:]
+        assert cockpit.program.returncode == 0, cockpit.output()[-600:]  # the storm may have found the exit
+
+
+def test_documents_that_cannot_be_saved_are_told(build):
+    """While a folder stands in the place of a document nothing can be written there."""
+    with Cockpit(build, DEMO) as cockpit:
+        flight = Flight(cockpit)
+
+        def unwritable(name):
+            path = cockpit.path('data', name)
+            if os.path.isdir(path):
+                os.rmdir(path)
+                os.rename(path + '.kept', path)
+            else:
+                os.rename(path, path + '.kept')
+                os.mkdir(path)
+
+        def is_told():
+            flight.answer('green')
+            time.sleep(0.3)
+            assert not flight.coloured('green'), 'one box'
+        before = flight.text()
+        flight.open('General Setup')
+        flight.click(*flight.editor_row(4))
+        unwritable('config.ini')
+        flight.click(*flight.editor_button('Ok'))
+        is_told()
+        unwritable('config.ini')
+        flight.open('Change Sensors')
+        flight.press('sensors/setup/documents/sensorSetup*.ini', 'beuse')
+        unwritable('config.ini')
+        flight.press('sensors/setup/documents/sensorSetup*.ini', 'bok')
+        is_told()
+        unwritable('config.ini')
+        assert flight.text() == before
+
+        flight.open('Forwarding')
+        area = flight.lower_area()
+        flight.press('gui/menu/documents/forwarders*.ini', 'badd', area)
+        time.sleep(0.7)
+        unwritable('config.ini')
+        cockpit.key('Return')
+
+        def is_yellow():
+            lower = cockpit.look()[int(area[1]):int(area[3])].astype(int)
+            return numpy.mean(yellow(lower[:, :, 0], lower[:, :, 1], lower[:, :, 2])) > 0.005
+        cockpit.wait(is_yellow, 5, 'a yellow message')
+        cockpit.save(cockpit.look(), 'forwarders-not-saved')
+        unwritable('config.ini')
+        assert flight.text() == before
+        flight.press('gui/menu/documents/forwarders*.ini', 'bclose', area)
+
+        before = flight.text('aircrafts')
+        flight.open('Aircraft Setup')
+        flight.press('gui/windows/documents/listScreen*.ini', 'bnew')
+        unwritable('aircrafts.ini')
+        flight.click(*flight.editor_button('Ok'))
+        flight.answer('green')
+        unwritable('aircrafts.ini')
+        assert flight.text('aircrafts') == before
+        assert cockpit.close() == 0
 
 
 def test_missing_fonts_and_images(build):

@@ -49,6 +49,18 @@ class Fingers:
             row = next(row for row in NUMBERS if character in row)
             self.tap_key(row.index(character), NUMBERS.index(row), 4, self.number_key, 4)
 
+    def change(self):
+        """To the next way of typing, while the number pad stands, which leaves the lower left corner free."""
+        height = self.text_key[1]
+        self.cockpit.click(height / 2, self.height - height / 2)
+        time.sleep(0.5)
+
+    def wipe(self, steps):
+        """Dials the last character that many characters on: ten of them fill the strip at the right edge."""
+        x, start = self.width - 20, self.height / 2
+        self.cockpit.drag((x, start), (x, start - steps * self.height / 10))
+        time.sleep(0.3)
+
     def save(self, name):
         time.sleep(0.3)
         self.cockpit.save(self.cockpit.look(), 'touch-%s-%dx%d' % ((name,) + self.cockpit.size))
@@ -111,4 +123,22 @@ def test_the_number_pad_replaces_a_speed(build):
         fingers.tap(0.91, 0.955)  # Ok
         cockpit.wait(lambda: '173' in values(aircraft(cockpit)), 10, 'the speed in the document')
         assert '200173' not in values(aircraft(cockpit))
+        assert cockpit.close() == 0
+
+
+def test_a_wipe_dials_the_last_digit(build):
+    with Cockpit(build, CONFIG) as cockpit:
+        fingers = Fingers(cockpit)
+        fingers.open_aircraft()
+        fingers.tap(0.86, 0.275)  # Edit
+        fingers.tap(0.7, 0.24)  # Vso
+        fingers.change()
+        fingers.save('wipe')
+        fingers.wipe(3)  # 58
+        fingers.wipe(-4)  # 54
+        fingers.save('wiped')
+        fingers.leave_edit_box()
+        fingers.tap(0.91, 0.955)  # Ok
+        cockpit.wait(lambda: '54' in values(aircraft(cockpit)), 10, 'the speed in the document')
+        assert '55' not in values(aircraft(cockpit))
         assert cockpit.close() == 0

@@ -1,6 +1,7 @@
 #include "../windows/DialogFixture.h"
 #include "core/events/EventReceiver.h"
 #include "core/ini/IniFile.h"
+#include "core/time/Time.h"
 #include "displays/PanelManager.h"
 #include "gui/hypertext/CHyperTextElement.h"
 #include "gui/hypertext/ManualWindow.h"
@@ -89,9 +90,14 @@ TEST(ManualPages, ThereIsOneForEachHelpButton) {
 class Manual : public DialogFixture {
 protected:
     void SetUp() override {
+        setClock(&clock);
         DialogFixture::SetUp();
         if (context)
             panels = context->getPanelManager();
+    }
+    void TearDown() override {
+        DialogFixture::TearDown();
+        setClock(nullptr);
     }
     CHyperTextElement* element() {
         const irr::gui::IGUIElement* back = findText(root, L"Back");
@@ -101,9 +107,12 @@ protected:
         return nullptr;
     }
     std::string shown() { return element()->getDocument().getFile(); }
+    /// Each as long as a frame takes: a finger's speed is measured in them.
     void frame(int count = 1) {
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
+            clock.advance(0.036);
             ASSERT_TRUE(frames->runFrame(nullptr));
+        }
     }
     /// The engine's buttons copy their labels.
     size_t allocationsOfButtons() {
@@ -119,6 +128,7 @@ protected:
         return {page.getCenter().X, page.LowerRightCorner.Y - static_cast<int>(GetParam().Height) / 25};
     }
 
+    ManualClock clock;
     PanelManager* panels = nullptr;
 };
 
@@ -188,6 +198,11 @@ TEST_P(Manual, EveryPageIsLaidOutAndStandsStill) {
         drawn->draw();
         EXPECT_EQ(ofButtons, counter.count()) << page;
         EXPECT_EQ(layouts, element()->getDocument().getLayouts()) << page;
+        if (page == ManualWindow::startPage)
+            continue;
+        clickAt(lowestLink());
+        frame(3);
+        EXPECT_EQ(ManualWindow::startPage, shown()) << page;
     }
 }
 
