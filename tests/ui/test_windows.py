@@ -54,7 +54,7 @@ def test_another_folder_can_be_chosen_for_one_kind_of_data(build):
         time.sleep(0.4)
         cockpit.save(cockpit.look(), 'data-location-list')
         # The second row of the list that hangs below the box.
-        row = 0.30 + 1.5 * (0.049410625 * (size[0] * size[1]) ** 0.5) / size[1]
+        row = 0.28 + 1.5 * (0.049410625 * (size[0] * size[1]) ** 0.5) / size[1]
         cockpit.click(*inside(size, 0.48, row))
         time.sleep(0.4)
         cockpit.save(cockpit.look(), 'data-location-chosen')

@@ -6,6 +6,7 @@
 #include "core/files/SafeFile.h"
 #include "core/ini/IniFile.h"
 #include "core/log/Logger.h"
+#include "core/text/Utf8.h"
 #include "gui/elements/AggregatableGUIElementAdapter.h"
 #include "gui/elements/AggregateGUIElement.h"
 #include "gui/elements/BeautifulGUIImage.h"
@@ -187,13 +188,13 @@ void ProfileScreen::onEvent(const irr::SEvent& event) {
 }
 
 void ProfileScreen::choose(IConfigOverride& profile) {
-    window_->setVisible(false);
-    const bool isChosen = profile.OnConfigChosen(&document_);
-    window_->setVisible(true);
-    if (!isChosen)
+    if (!profile.OnConfigChosen(&document_))
         return;
-    if (const int error = saveFileSafely(context_->getConfigPath(), document_.toString()))
-        logText("The sensor profile is used, but could not be saved. " + whyNotWritten(error) + "\n");
+    if (const int error = saveFileSafely(context_->getConfigPath(), document_.toString())) {
+        const std::string trouble = "The profile is used now, but could not be saved. " + whyNotWritten(error);
+        logText(trouble + "\n");
+        tellInBox(*context_, decodeUtf8(trouble));
+    }
     open_ = false;
 }
 

@@ -21,6 +21,8 @@ namespace {
 
 using Rect = irr::core::rect<irr::s32>;
 
+constexpr float margin = 0.02f, gap = 0.015f; ///< Shares of a row.
+
 AggregateGUIElement::Options layoutOf(float space, bool horizontal) {
     AggregateGUIElement::Options options;
     options.wish.recommendedSpace = space;
@@ -36,16 +38,16 @@ IAggregatableGUIElement* space(irr::gui::IGUIEnvironment* environment, float wei
 IAggregatableGUIElement* makeRow(irr::gui::IGUIEnvironment* environment, const IniEditorField& field, float share,
                                  float labelShare) {
     auto* control =
-        new AggregateGUIElement(environment, layoutOf(0.92f - labelShare, false),
+        new AggregateGUIElement(environment, layoutOf(1.0f - 2.0f * margin - gap - labelShare, false),
                                 {space(environment, 0.25f),
                                  new AggregatableGUIElementAdapter(environment, field.getElement(), LayoutWish{1.0f}),
                                  space(environment, 0.25f)},
                                 {});
     return new AggregateGUIElement(
         environment, layoutOf(share, true),
-        {space(environment, 0.03f),
+        {space(environment, margin),
          new AggregatableGUIElementAdapter(environment, field.getLabel(), LayoutWish{labelShare}),
-         space(environment, 0.02f), control, space(environment, 0.03f)},
+         space(environment, gap), control, space(environment, margin)},
         {});
 }
 
@@ -124,7 +126,7 @@ void IniEditor::createGUI() {
     const int rowHeight = context_->getRecommendedButtonHeight() * 3 / 2;
     const int bar = environment_->getSkin()->getSize(irr::gui::EGDS_SCROLLBAR_SIZE);
     const Rect pane(rowHeight / 6, rowHeight, area.getWidth() - rowHeight / 6 - bar, area.getHeight() - rowHeight);
-    const float labelShare = context_->isPortrait() ? 0.58f : 0.44f; // a narrow screen has less room for long labels
+    const float labelShare = context_->isPortrait() ? 0.56f : 0.44f; // a narrow screen has less room for long labels
     AggregateGUIElement::Elements rows;
     for (const EditorRow& row : rows_) {
         fields_.push_back(std::make_unique<IniEditorField>(environment_, row));
@@ -147,6 +149,8 @@ void IniEditor::addScrollBar(const Rect& place) {
 }
 
 void IniEditor::processEvent(const irr::SEvent& event) {
+    if (event.EventType == irr::EET_GUI_EVENT && event.GUIEvent.EventType == irr::gui::EGET_EDITBOX_CHANGED)
+        unmarkRighted(event.GUIEvent.Caller);
     if (isClickOf(event, ok_))
         accept();
     else if (isClickOf(event, cancel_))
@@ -170,6 +174,13 @@ void IniEditor::chooseColor(IniEditorField& field) {
 void IniEditor::openHelp() {
     showHelp(context_, helpFile_.c_str());
     context_->getEvents()->setBackButton(cancel_);
+}
+
+/// A wrong value that became right while it is typed.
+void IniEditor::unmarkRighted(const irr::gui::IGUIElement* element) {
+    for (const auto& field : fields_)
+        if (field->getElement() == element && field->isRight())
+            field->setMarked(false);
 }
 
 /// Gives the first of them.

@@ -51,6 +51,7 @@ private:
     void createGUI();
     void addScrollBar(const irr::core::rect<irr::s32>& place);
     IniEditorField* markWrongFields();
+    void unmarkRighted(const irr::gui::IGUIElement* element);
     void accept();
     void openHelp();
     void chooseColor(IniEditorField& field);

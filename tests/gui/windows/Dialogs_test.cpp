@@ -106,7 +106,11 @@ TEST_P(DialogsTest, ALongEditorScrollsToTheWrongFieldAndMarksIt) {
         picture("editor-long");
         EXPECT_TRUE(isInView(findText(root, L"far")));
         EXPECT_TRUE(isShown(L"Setting 30:  A number, please."));
-        findText(root, L"far")->setText(L"-.5");
+        key(irr::KEY_KEY_5, L'5'); // replaces the number, which is selected
+    });
+    script->then([&] {
+        EXPECT_TRUE(isShown(L"Setting 30:")) << "the mark goes with the mistake";
+        environment->getFocus()->setText(L"-.5");
         environment->setFocus(nullptr); // keys stood before "Ok"
     });
     script->then([&] { click(L"Ok"); });
