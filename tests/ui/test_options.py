@@ -44,12 +44,12 @@ def test_options_are_changed_by_combo_boxes_and_ticks(build):
             flight = Flight(cockpit)
             flight.open('General Setup')
             flight.choose(flight.editor_row(0), 0, 3)
-            flight.choose(flight.editor_row(6), 10, 17)
+            flight.choose(flight.editor_row(3), 0, 2)
             cockpit.save(cockpit.look(), 'options-general-%dx%d' % size)
             flight.click(*flight.editor_button('Ok'))
             flight.wait_for('terrainDetailLevel', 'LOW')
             settings = flight.document()['']
-            assert settings['units'] == 'ft|nm|knots' and settings['fontOffset'] == '2', settings
+            assert settings['units'] == 'ft|nm|knots' and settings['font'] == 'Roboto', settings
 
             flight.open('Panel Setup')
             edit(flight, TURN, lambda glass: glass.click(*glass.editor_row(0)))

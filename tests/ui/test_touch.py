@@ -134,11 +134,11 @@ def test_a_wipe_dials_the_last_digit(build):
         fingers.tap(0.7, 0.24)  # Vso
         fingers.change()
         fingers.save('wipe')
-        fingers.wipe(3)  # 58
-        fingers.wipe(-4)  # 54
+        fingers.wipe(3)  # 48
+        fingers.wipe(-4)  # 44
         fingers.save('wiped')
         fingers.leave_edit_box()
         fingers.tap(0.91, 0.955)  # Ok
-        cockpit.wait(lambda: '54' in values(aircraft(cockpit)), 10, 'the speed in the document')
-        assert '55' not in values(aircraft(cockpit))
+        cockpit.wait(lambda: '44' in values(aircraft(cockpit)), 10, 'the speed in the document')
+        assert '45' not in values(aircraft(cockpit))
         assert cockpit.close() == 0

@@ -198,8 +198,8 @@ TEST_P(Manual, EveryPageIsLaidOutAndStandsStill) {
         drawn->draw();
         EXPECT_EQ(ofButtons, counter.count()) << page;
         EXPECT_EQ(layouts, element()->getDocument().getLayouts()) << page;
-        if (page == ManualWindow::startPage)
-            continue;
+        if (page == ManualWindow::startPage || element()->getDocument().getScrollOffset() == 0)
+            continue; // a short page ends further up
         clickAt(lowestLink());
         frame(3);
         EXPECT_EQ(ManualWindow::startPage, shown()) << page;
