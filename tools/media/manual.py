@@ -176,7 +176,7 @@ def scene_calibration():
     cockpit = flying(config, '--protocol', 'gdl90')
     try:
         Glass(cockpit).open('Calib.')
-        time.sleep(1)
+        time.sleep(6)  # the message of the connection goes
         keep(cockpit.look(), 'calibration')
     finally:
         cockpit.__exit__()
