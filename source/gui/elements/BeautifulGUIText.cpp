@@ -1,7 +1,7 @@
 #include "gui/elements/BeautifulGUIText.h"
 
 #include "gui/font/FlexibleFont.h"
-#include "gui/font/MakeShortenedText.h"
+#include "gui/layoutmath/ShortText.h"
 
 #include <algorithm>
 
@@ -45,7 +45,10 @@ void BeautifulGUIText::showWhatFits(int room) {
     room_ = room;
     const std::wstring whole = Text.c_str();
     const bool isLine = whole.find(L'\n') == std::wstring::npos;
-    const std::wstring shown = isLine ? makeShortenedText(whole, static_cast<unsigned>(room), font_) : whole;
+    const auto fits = [&](const std::wstring& text) {
+        return static_cast<int>(font_->getDimension(text.c_str()).Width) <= room;
+    };
+    const std::wstring shown = isLine ? keepBegin(whole, fits) : whole;
     text_.set(font_, shown.c_str(), look_.color, look_.centered);
 }
 

@@ -10,7 +10,8 @@ namespace skyvane {
 class FlexibleFont;
 
 /// A text as a child of a layout. A text that is too long for its place is drawn smaller as far as it can be read; a
-/// line that is longer still ends in an ellipsis. Nothing is built or allocated in a frame in which nothing changed.
+/// line that is longer still is cut, with "..." behind it. Nothing is built or allocated in a frame in which nothing
+/// changed.
 class BeautifulGUIText : public AggregatableGUIElement {
 public:
     struct Look {

@@ -21,5 +21,20 @@ TEST(ShortText, keepsTheEndAndAsMuchAsFits) {
     EXPECT_EQ(keepEnd(L"", 5, [](const std::wstring&) { return false; }), L"...");
 }
 
+TEST(ShortText, TheBeginningStaysWithoutBlanksBeforeTheGap) {
+    const auto keep = [](const std::wstring& text, size_t room) {
+        return keepBegin(text, [room](const std::wstring& shown) { return shown.size() <= room; });
+    };
+    EXPECT_EQ(L"Round trip", keep(L"Round trip", 10));
+    EXPECT_EQ(L"Round...", keep(L"Round trip", 9));
+    EXPECT_EQ(L"R...", keep(L"Round trip", 4));
+    EXPECT_EQ(L"", keep(L"", 0));
+    for (const size_t room : {0u, 1u, 3u})
+        EXPECT_EQ(L"...", keep(L"Round trip", room));
+    EXPECT_EQ(L"...", keep(L"    x", 4));
+    for (size_t room = 4; room < 200; room += 7)
+        EXPECT_EQ(room, keep(std::wstring(100000, L'm'), room).size());
+}
+
 } // namespace
 } // namespace skyvane
