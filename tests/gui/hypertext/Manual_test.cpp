@@ -200,8 +200,10 @@ TEST_P(Manual, EveryPageIsLaidOutAndStandsStill) {
         EXPECT_EQ(layouts, element()->getDocument().getLayouts()) << page;
         if (page == ManualWindow::startPage || element()->getDocument().getScrollOffset() == 0)
             continue; // a short page ends further up
-        clickAt(lowestLink());
-        frame(3);
+        for (int column = 2; column < 4 && shown() == page; ++column) { // alone in its row, or the last of it
+            clickAt({static_cast<int>(GetParam().Width) * column / 4, lowestLink().Y});
+            frame(3);
+        }
         EXPECT_EQ(ManualWindow::startPage, shown()) << page;
     }
 }
