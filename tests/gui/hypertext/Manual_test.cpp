@@ -199,7 +199,7 @@ TEST_P(Manual, EveryPageIsLaidOutAndStandsStill) {
         EXPECT_EQ(ofButtons, counter.count()) << page;
         EXPECT_EQ(layouts, element()->getDocument().getLayouts()) << page;
         if (page == ManualWindow::startPage || element()->getDocument().getScrollOffset() == 0)
-            continue; // a short page ends further up
+            continue;                                                   // a short page ends further up
         for (int column = 2; column < 4 && shown() == page; ++column) { // alone in its row, or the last of it
             clickAt({static_cast<int>(GetParam().Width) * column / 4, lowestLink().Y});
             frame(3);
