@@ -30,6 +30,7 @@ namespace {
 constexpr int wipeSteps = 10;
 constexpr int changeKeyRows = 5; ///< The change key is as high as a key of the text keyboard.
 constexpr double fadeSeconds = 0.2;
+constexpr double faintest = 0.4; ///< The first frame shows keys already, however slow frames are.
 const SColor baredColor(0xff05070a);
 
 std::vector<std::unique_ptr<IInput>> makeInputs(ICommonAppContext* context, SColor color,
@@ -225,7 +226,7 @@ SColor InputSystem::fadedColor() {
     if (!wasShown_)
         shownSince_ = now;
     wasShown_ = true;
-    const double share = std::clamp((now - shownSince_) / fadeSeconds, 0.0, 1.0);
+    const double share = std::clamp((now - shownSince_) / fadeSeconds, faintest, 1.0);
     SColor color = color_;
     color.setAlpha(static_cast<irr::u32>(color_.getAlpha() * share));
     return color;
