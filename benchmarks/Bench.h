@@ -34,6 +34,7 @@ std::vector<Bench> labelBenches();
 std::vector<Bench> gdl90Benches();
 std::vector<Bench> planBenches();
 std::vector<Bench> hypertextBenches();
+std::vector<Bench> mapBenches();
 
 /// Seconds of one call.
 double secondsOf(const std::function<void()>& work);

@@ -55,8 +55,11 @@ EngineRef<irr::IrrlichtDevice> openBenchWindow() {
     return {};
 }
 
-DemoProgram::DemoProgram(const std::string& config) : home_(config) {
+DemoProgram::DemoProgram(const std::string& config, const std::function<void(const std::string&)>& prepare)
+    : home_(config) {
     setClock(&clock_);
+    if (!home_.path().empty() && prepare)
+        prepare(home_.path());
     if (!home_.path().empty())
         device_ = openBenchWindow();
     if (!device_)

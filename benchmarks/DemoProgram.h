@@ -3,6 +3,7 @@
 #include "core/engine/EngineRef.h"
 #include "core/time/Time.h"
 
+#include <functional>
 #include <irrlicht.h>
 #include <memory>
 #include <string>
@@ -40,13 +41,15 @@ EngineRef<irr::IrrlichtDevice> openBenchWindow();
 class DemoProgram {
 public:
     /// With that document; the plain page stands empty beside it.
-    explicit DemoProgram(const std::string& config);
+    /// `prepare` is called with the home before the program starts there.
+    explicit DemoProgram(const std::string& config, const std::function<void(const std::string&)>& prepare = {});
     ~DemoProgram();
     DemoProgram(const DemoProgram&) = delete;
     DemoProgram& operator=(const DemoProgram&) = delete;
 
     bool isGood() const { return loop_ != nullptr; }
     Context& getContext() { return *context_; }
+    irr::IrrlichtDevice* getDevice() { return device_.get(); }
     PlainPage& getPlainPage() { return *plain_; }
 
     double frameSeconds();

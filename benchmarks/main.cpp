@@ -28,7 +28,7 @@ constexpr MakeBenches allBenches[] = {
     labelBenches,   //
     gdl90Benches,   //
     planBenches,    //
-    hypertextBenches,
+    hypertextBenches, mapBenches,
 };
 
 bool holds(const Bench& bench, double value) {

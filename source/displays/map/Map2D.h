@@ -129,6 +129,9 @@ public:
     IChart* getChart() const;
     irr::video::ITexture* getWhiteTexture() const;
 
+    /// What the map is made of, for those who measure it.
+    MapParts& getParts() { return *parts_; }
+
     // --- IPanel ---
 
     void OnPageChange() override;

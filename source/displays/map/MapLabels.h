@@ -41,7 +41,8 @@ public:
     /// In the panel's viewport, whose place on the screen is told.
     void draw(const irr::core::rect<int>& panel);
     irr::core::rect<int> calcRect(const RGDContent& content) const;
-    size_t getCount() const { return shown_.size(); }
+    const std::vector<RGDContent>& getShown() const { return shown_; }
+    bool isSolving() const { return isSolving_ || isStartWanted_; }
 
     RGDContent makeText(const std::string& text, irr::video::SColor color, float scale,
                         irr::video::SColor background) const;

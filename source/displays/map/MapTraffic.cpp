@@ -17,6 +17,7 @@ namespace {
 
 const irr::video::SColor symbolColor(0xff87a3ff);
 const irr::video::SColor white(0xffffffff);
+const irr::video::SColor plateColor(0xb0101820);
 constexpr double smallFromArea = 15.0;
 constexpr float smallShare = 0.5f;
 constexpr float differenceScale = 0.75f, nameScale = 0.5f;
@@ -88,14 +89,32 @@ void MapTraffic::drawTarget(const TrafficPicture& target, const irr::core::vecto
     texts.name.set(font, wide_.c_str(), white);
 }
 
+/// Behind the texts, in the panel's viewport, so that they can be read on any ground.
+void MapTraffic::drawPlates(int edge, float scale) {
+    for (size_t i = 0; i < used_; ++i) {
+        const auto widthOf = [scale](const CachedText& text, float share) {
+            return static_cast<int>(text.getDimension().Width * scale * share);
+        };
+        const auto heightOf = [scale](const CachedText& text, float share) {
+            return static_cast<int>(text.getDimension().Height * scale * share);
+        };
+        const Texts& texts = *texts_[i];
+        const int width = std::max(widthOf(texts.difference, differenceScale), widthOf(texts.name, nameScale)) + 8;
+        const int height = heightOf(texts.difference, differenceScale) * 4 / 5 + heightOf(texts.name, nameScale);
+        const int left = texts.place.X - width / 2, top = texts.place.Y + edge / 2;
+        map_.getDrawer()->drawRectWithCorner({left, top, left + width, top + height}, height / 6, plateColor);
+    }
+    map_.getDrawer()->flush();
+}
+
 void MapTraffic::drawTexts(const irr::core::rect<int>& panel, int edge) {
     FlexibleFont* font = map_.getContext()->getFlexibleFont();
     if (!font)
         return;
     const float border = font->getDefaultBorderSize(), fatness = font->getDefaultFatness();
-    font->setDefaultBorderSize(0.12f);
-    font->setDefaultFatness(fatness - 0.1f);
+    font->setDefaultBorderSize(0.0f);
     const irr::core::vector2d<float> scale = font->getDefaultScale();
+    drawPlates(edge, scale.X);
     for (size_t i = 0; i < used_; ++i) {
         const Texts& texts = *texts_[i];
         irr::core::vector2d<int> top = panel.UpperLeftCorner + texts.place;

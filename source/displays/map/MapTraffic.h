@@ -32,6 +32,7 @@ private:
     };
 
     void drawTarget(const TrafficPicture& target, const irr::core::vector2d<int>& place, int edge);
+    void drawPlates(int edge, float scale);
     void drawTexts(const irr::core::rect<int>& panel, int edge);
 
     Map2D& map_;
