@@ -1,5 +1,6 @@
 #include "procedures/course/PerfectEntry.h"
 
+#include "chart/geodesy/Angles.h"
 #include "chart/geodesy/EarthConstants.h"
 #include "chart/geodesy/GreatCircle.h"
 #include "chart/geodesy/LocalFrame.h"
@@ -108,6 +109,16 @@ void appendArc(std::vector<Place>& path, const Circle& circle, const Place& from
     path.push_back(to);
 }
 
+/// Whether a leg straight to the target is off both courses by no more than a chord is off its arc. On the spot only the
+/// courses count.
+bool isStraightAhead(const Entry& entry) {
+    constexpr double offChord = VertexStepDegrees / 2.0, onTheSpot = 1.0;
+    const bool isThere = std::hypot(entry.target.X, entry.target.Z) < onTheSpot;
+    const double way = isThere ? entry.course : std::atan2(entry.target.X, entry.target.Z) * DegreesPerRadian;
+    return std::fabs(Angle180(way - entry.course)) <= offChord &&
+           std::fabs(Angle180(way - entry.targetCourse)) <= offChord;
+}
+
 std::vector<Place> shortestPath(const Entry& entry) {
     Candidate best;
     for (const Turn first : {Turn::Right, Turn::Left})
@@ -117,7 +128,9 @@ std::vector<Place> shortestPath(const Entry& entry) {
                 best = way;
         }
     std::vector<Place> path{Place()};
-    if (best.length < LongestPath) {
+    // Nobody flies a circle to set a hair's breadth right.
+    const bool hasCircle = best.length > std::hypot(entry.target.X, entry.target.Z) + FullTurn / 2.0 * entry.radius;
+    if (best.length < LongestPath && !(hasCircle && isStraightAhead(entry))) {
         appendArc(path, best.start, Place(), best.leaves);
         path.push_back(best.joins);
         appendArc(path, best.end, best.joins, entry.target);

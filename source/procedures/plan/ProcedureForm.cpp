@@ -21,13 +21,14 @@ constexpr const char* RadialKey = "courseToElement";
 constexpr const char* NoAltitude = "auto";
 constexpr double HighestFeet = 60000.0, LowestFeet = -2000.0, WidestFeet = 30000.0, FastestKnots = 1000.0;
 constexpr double LongestLegMiles = 100.0;
+constexpr double FullCircle = 360.0;
 
 /// What each kind of procedure has of it; those of others are left out.
 constexpr ProcedureForm::Row AllRows[] = {
-    {"course", "Holding Course [°]: ", Kind::Number, 1.0, 0.0, 0.0, 360.0},
+    {"course", "Holding Course [°]: ", Kind::Number, 1.0, 0.0, 0.0, FullCircle},
     {"dmedistance", "Leg Length [NM]: ", Kind::Number, 1.0, 0.0, 0.0, LongestLegMiles},
     {"rightturns", "Right Turns", Kind::Flag, 1.0, 0.0, 0.0, 1.0},
-    {RadialKey, "Radial (groundtrack) [°]: ", Kind::Number, 1.0, 180.0, 0.0, 360.0},
+    {RadialKey, "Radial (groundtrack) [°]: ", Kind::Number, 1.0, 180.0, 0.0, FullCircle},
     {"interceptOffset", "Interception Offset [°]: ", Kind::Number, 1.0, 0.0, InterceptProcedure::LeastOffset,
      InterceptProcedure::MostOffset},
     {"to", "To the element (off: away from it)", Kind::Flag, 1.0, 0.0, 0.0, 1.0},
@@ -48,9 +49,14 @@ constexpr ProcedureForm::Row AllRows[] = {
 /// A tenth is as fine as a pilot enters anything.
 std::string shown(const ProcedureForm::Row& row, double stored) {
     double value = stored / row.unit - row.offset;
-    if (row.most == 360.0)
+    if (row.most == FullCircle)
         value = Angle0to360(value);
     return toText(std::round(value * 10.0) / 10.0);
+}
+
+double inPlan(const ProcedureForm::Row& row, double entered) {
+    const double value = (entered + row.offset) * row.unit;
+    return row.most == FullCircle ? Angle0to360(value) : value;
 }
 
 } // namespace
@@ -104,7 +110,7 @@ std::unique_ptr<IProcedure> ProcedureForm::create(IChartElementSource* charts) {
         else if (text.empty())
             keys.setText(row.key, NoAltitude);
         else if (stored == NoAltitude || text != shown(row, toDouble(stored)))
-            keys.setNumber(row.key, (toDouble(text) + row.offset) * row.unit);
+            keys.setNumber(row.key, inPlan(row, toDouble(text)));
     }
     return factory_->CreateFromIni(charts, &plan_, Section, 0);
 }

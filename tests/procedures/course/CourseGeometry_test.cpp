@@ -174,6 +174,23 @@ TEST(PerfectEntry, fliesStraightWhereNothingHasToTurn) {
     EXPECT_EQ(way.size(), 2u);
 }
 
+TEST(PerfectEntry, FliesNoCircleToATargetStraightAhead) {
+    Flights flights;
+    for (int i = 0; i < 500; ++i) {
+        const ChartPosition start = flights.position();
+        const double course = flights.course(), metres = flights.between(0.0, 200.0);
+        const double way = (course + flights.between(-4.0, 4.0)) / DegreesPerRadian;
+        const ChartPosition target =
+            Vector3df642ChartPosition(start, {std::sin(way) * metres, 0.0, std::cos(way) * metres});
+        const double end = way * DegreesPerRadian + flights.between(-4.0, 4.0);
+        const CourseList list =
+            calcPerfectEntry(start, 900.0, course, target, 900.0, metres < 1.0 ? course : end, 110.0, 3.0);
+        EXPECT_LT(lengthOf(list), metres + 5.0) << i;
+        EXPECT_LT(calcDistance2(list.back().position, target), 0.1) << i;
+    }
+    EXPECT_GT(lengthOf(calcPerfectEntry({9.0, 49.0}, 0.0, 90.0, {9.0, 49.0}, 0.0, 100.0, 110.0, 3.0)), 6000.0);
+}
+
 TEST(PerfectEntry, mirrorsItself) {
     Flights flights;
     const ChartPosition start(9.0, 0.0);
