@@ -42,6 +42,7 @@ class Glass:
         self.button_width = int(0.12649 * root + 0.5)
         self.shape = 'Portrait' if self.height > self.width else 'Landscape'
         self.playback = playback
+        self.plan_rows = 0  # those that come with a flight plan, behind the first row
 
     def click(self, x, y, pause=0.3):
         self.cockpit.click(x, y)
@@ -53,7 +54,7 @@ class Glass:
     def row_place(self, number):
         """Of a row of the open menu, playback rows first."""
         height, margin = self.button * 5 // 4, max(2, self.button // 8)
-        rows = len(ROWS) + (PLAYBACK_ROWS if self.playback else 0)
+        rows = len(ROWS) + self.plan_rows + (PLAYBACK_ROWS if self.playback else 0)
         bottom = self.height - self.button
         top = max(0, bottom - rows * height - 2 * margin) + margin
         return 0.19 * math.sqrt(self.width * self.height), top + (number + 0.5) * height
@@ -68,12 +69,13 @@ class Glass:
     def open(self, row):
         self.menu()
         height, margin = self.button * 5 // 4, max(2, self.button // 8)
-        x, y = self.row_place(ROWS.index(row) + (PLAYBACK_ROWS if self.playback else 0))
+        number = ROWS.index(row)
+        x, y = self.row_place(number + (self.plan_rows if number else 0) + (PLAYBACK_ROWS if self.playback else 0))
         bottom = self.height - self.button - margin
         if y > bottom - height / 2:  # scrolled to the end, where the last row ends at the bottom
             self.cockpit.drag((x, bottom * 0.8), (x, bottom * 0.3))
             time.sleep(1)
-            rows = len(ROWS) + (PLAYBACK_ROWS if self.playback else 0)
+            rows = len(ROWS) + self.plan_rows + (PLAYBACK_ROWS if self.playback else 0)
             y -= rows * height - (bottom - margin)
         self.click(x, y)
 

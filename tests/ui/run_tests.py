@@ -1,8 +1,8 @@
 """Runs the window tests: every function test_* of the modules beside this file, each given the build folder.
 
-    run_tests.py BUILD [--smoke] [--jobs=N] [WORD...]
+    run_tests.py BUILD [--smoke] [--quick] [--jobs=N] [WORD...]
 
---smoke: only those marked with @smoke; WORD: only names that hold it; --jobs: that many at a time, each in a network of
+--smoke: only those marked with @smoke; --quick: none of those marked with @thorough; WORD: only names that hold it; --jobs: that many at a time, each in a network of
 its own, since the simulators' ports are fixed. Where no such network can be had, one after another.
 """
 import concurrent.futures
@@ -24,12 +24,20 @@ def smoke(function):
     return function
 
 
+def thorough(function):
+    """Marks a test that takes long: it stays away from a quick run."""
+    function.thorough = True
+    return function
+
+
 def wanted_tests(options, words):
     """(module, name) of each test to run."""
     for path in sorted(glob.glob(os.path.join(HERE, 'test_*.py'))):
         module = importlib.import_module(os.path.basename(path)[:-3])
         for name in [n for n in dir(module) if n.startswith('test_')]:
-            is_wanted = '--smoke' not in options or getattr(getattr(module, name), 'smoke', False)
+            test = getattr(module, name)
+            is_wanted = '--smoke' not in options or getattr(test, 'smoke', False)
+            is_wanted = is_wanted and not ('--quick' in options and getattr(test, 'thorough', False))
             if is_wanted and (not words or any(word in name for word in words)):
                 yield module.__name__, name
 

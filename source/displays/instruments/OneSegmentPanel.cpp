@@ -1,7 +1,10 @@
 #include "displays/instruments/OneSegmentPanel.h"
 
+#include "chart/elements/IChartElement.h"
+#include "chart/store/IChartElementSource.h"
 #include "core/Context.h"
 #include "core/geometry/Rectangles.h"
+#include "core/text/Utf8.h"
 #include "displays/PanelManager.h"
 #include "displays/drawing/Drawer2D.h"
 #include "displays/gauges/SegmentFormat.h"
@@ -38,6 +41,19 @@ irr::core::rect<int> crossBox(const irr::core::rect<int>& rect) {
     return inside.getWidth() > widest * inside.getHeight() ? makeXic(inside, widest) : inside;
 }
 
+/// Of the chart element that the procedure leads to; empty for a place without one.
+ShortText nameOfTarget(Context& context, const IProcedure& procedure) {
+    IChartElementSource* charts = context.getCharts();
+    if (!charts || procedure.getLocationType() != ProcedureLocation::ChartElement)
+        return {};
+    const IChartElement* element = charts->getChartElement(procedure.getLocationChartIndex());
+    if (!element || element->getTrieInsertionNameCount() < 1)
+        return {};
+    const std::string name = element->getTrieInsertionName(0);
+    const bool isPlain = std::all_of(name.begin(), name.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
+    return isPlain ? ShortText().append(std::string_view(name)) : ShortText(decodeUtf8(name).c_str());
+}
+
 } // namespace
 
 OneSegmentPanel::OneSegmentPanel(Context* context, irr::video::SColor color, SegmentType type)
@@ -68,6 +84,8 @@ SegmentSources OneSegmentPanel::gatherSources() const {
         sources.bearingDegrees = procedure->getBearing();
         sources.eteSeconds = procedure->getETE();
         sources.distanceNauticalMiles = procedure->getLength();
+        if (type_ == SegmentType::NEXTWPT)
+            sources.nextWaypoint = nameOfTarget(*context_, *procedure);
     }
     return sources;
 }

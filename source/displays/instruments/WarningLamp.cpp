@@ -48,7 +48,8 @@ WarningLamp::WarningLamp(Context* context, WarningType type) : IPanel(context), 
 
 LampWatch WarningLamp::watch() const {
     IProcedure* procedure = context_->getCurrentProcedure();
-    if (!procedure || procedure->getType() == IProcedure::None)
+    // Without a place or a path nobody knows: green would say that all is well.
+    if (!procedure || procedure->getType() == IProcedure::None || procedure->getLength() < 0.0)
         return LampWatch();
     if (type_ == WarningType::ALTITUDE)
         return {true, procedure->isAltitudeChecked(), procedure->getAltitudeWarning()};

@@ -37,6 +37,7 @@ PositionSimulator::PositionSimulator(Context* context)
     elements.recent = element("brecent");
     elements.hint = element("thint");
     search_->init(nullptr, 0, elements);
+    Skin::setButtonStyle(element("bstart"), "greenNormal");
     PositionSimulator::update();
 }
 
