@@ -376,9 +376,8 @@ def test_the_simulator_flies_what_is_left_of_a_damaged_plan(build):
         cockpit.save(cockpit.look(), 'simulator-search')
         plan.press(SIMULATOR, 'bstart', plan.high)
         cockpit.wait(lambda: is_blue(cockpit.look()), 5, 'the word in the bar')
-        pixels = cockpit.look()
-        cockpit.save(pixels, 'simulator-started')
-        assert message_lines(pixels) == 1, 'the warning that nothing is real'
+        cockpit.wait(lambda: message_lines(cockpit.look()) == 1, 4, 'the warning that nothing is real')
+        cockpit.save(cockpit.look(), 'simulator-started')
         plan.press(SIMULATOR, 'bclose', plan.high)
         time.sleep(0.5)
         plan.open('FlightPlan')
