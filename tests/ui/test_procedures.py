@@ -3,16 +3,19 @@ import struct
 import time
 
 from cockpit import Cockpit
-from glass import RED, Glass
+from glass import Glass
 from islands import install
 from test_dials import DEMO, dismiss_box, hold
+from test_start import read_ini
 
+PLAN = 'gui/menu/documents/flightPlan*.ini'
+SAVES = 'gui/windows/documents/loadSave*.ini'
 CHOOSE = 'procedures/dialogs/documents/chooseProcedure*.ini'
 APPROACH = 'procedures/dialogs/documents/approach*.ini'
 HOLDING = 'procedures/dialogs/documents/holding*.ini'
 INTERCEPT = 'procedures/dialogs/documents/intercept*.ini'
 GENERAL = 'procedures/dialogs/documents/generalProcedure*.ini'
-SCREENS = ((1280, 720), (720, 1280), (800, 480))
+SIZE = (1280, 720)
 
 
 class Planner(Glass):
@@ -25,9 +28,6 @@ class Planner(Glass):
         hold(cockpit, 'flightgear', latitude=42.3, longitude=-28.4, altitude_ft=3500, heading=30, ias_kt=110)
         time.sleep(0.5)
 
-    def keep(self, name):
-        self.cockpit.save(self.cockpit.look(), 'procedures-%s-%dx%d' % (name, self.width, self.height))
-
     def search(self, text):
         for letter in text:
             self.cockpit.key(letter, pause=0.0)
@@ -38,13 +38,16 @@ class Planner(Glass):
         left, top, right, _ = self.element_rect(document, name)
         self.click(left + (right - left) / 4, top + (row + 0.5) * self.button)
 
-    def made(self):
-        """The names of the procedures made so far."""
-        with open(self.cockpit.path('.Skyvane', 'Logs', 'log.txt'), errors='replace') as log:
-            return [line.split(': ', 1)[1].strip() for line in log if line.startswith('New procedure: ')]
+    def create_new(self):
+        self.press(PLAN, 'bcreate', self.lower_area())
 
-    def wait_for(self, name):
-        self.cockpit.wait(lambda: self.made() and self.made()[-1] == name, 5, name)
+    def saved(self):
+        """The plan, as the document of saved plans has it."""
+        self.press(PLAN, 'bsaved', self.lower_area())
+        self.write(self.element(SAVES, 'fileName'), 'tour')
+        self.press(SAVES, 'bsaveload')
+        plan = read_ini(self.cockpit.path('data', 'fpl.ini'))['tour']
+        return {key.replace(r'\0', '[').replace(r'\1', ']'): value for key, value in plan.items()}
 
     def recent(self):
         with open(self.cockpit.path('data', 'recent'), 'rb') as file:
@@ -62,38 +65,38 @@ class Planner(Glass):
 
 
 def test_a_plan_of_all_kinds_of_procedures_is_made_by_touch(build):
-    with Cockpit(build, DEMO, SCREENS[0], prepare=install(build)) as cockpit:
+    with Cockpit(build, DEMO, SIZE, prepare=install(build)) as cockpit:
         planner = Planner(cockpit)
-        planner.open('New Procedure')
+        planner.open('FlightPlan')
+        planner.create_new()
         planner.search('ncp')
         planner.press(CHOOSE, 'bdirect')
-        planner.wait_for('Direct: NCP - Northcape (fictional) - VORDME')
         assert len(planner.recent()) == 1
-        planner.open('New Procedure')  # begins with what is flown to
+        planner.create_new()  # begins with what is flown to
         planner.choose(CHOOSE, 'lprocedures', 1)
         planner.press(CHOOSE, 'bnext')
         assert planner.shows_path(HOLDING, 'spreview')
         planner.press(HOLDING, 'cright')
         planner.press(HOLDING, 'bnext')
-        planner.wait_for('Holding at: NCP - Northcape (fictional) - VORDME')
-        planner.open('New Procedure')
-        planner.press(CHOOSE, 'brecent')
+        planner.create_new()
         planner.choose(CHOOSE, 'lprocedures', 2)
         planner.press(CHOOSE, 'bnext')
         assert planner.shows_path(INTERCEPT, 'spreview')
         planner.press(INTERCEPT, 'cradial')
         planner.write(planner.element(INTERCEPT, 'eradial'), '210', planner.element(INTERCEPT, 'tradial'))
         planner.press(INTERCEPT, 'next')
-        planner.wait_for('Intercept: NCP - Northcape (fictional) - VORDME 210 (to)')
-        assert len(planner.recent()) == 1
+        plan = planner.saved()
+        assert [plan['proc[%d].name' % i] for i in range(3)] == ['Direct', 'Holding', r'Intercept\ Airway/Radial'], plan
+        assert plan['cnt'] == '3' and plan['proc[1].rightturns'] == '0' and plan['proc[1].dmedistance'] == '2', plan
+        assert plan['proc[2].courseToElement'] == '30' and plan['proc[2].to'] == '1', plan
         assert cockpit.close() == 0
 
 
 def test_an_approach_is_set_up_and_warns_of_what_the_charts_dont_know(build):
-    with Cockpit(build, DEMO, SCREENS[0], prepare=install(build)) as cockpit:
+    with Cockpit(build, DEMO, SIZE, prepare=install(build)) as cockpit:
         planner = Planner(cockpit)
-        planner.open('New Procedure')
-        planner.press(CHOOSE, 'brecent')
+        planner.open('FlightPlan')
+        planner.create_new()
         planner.press(CHOOSE, 'bnrst')
         planner.choose(CHOOSE, 'lprocedures', 1)
         assert planner.shows_path(CHOOSE, 'previewBox'), 'an arrow points to the runway'
@@ -104,9 +107,11 @@ def test_an_approach_is_set_up_and_warns_of_what_the_charts_dont_know(build):
         assert planner.shows_path(APPROACH, 'spreview')
         planner.press(APPROACH, 'bgeneral')
         planner.press(GENERAL, 'bback')
-        assert not planner.coloured(RED) is None, 'the way back'
         planner.press(APPROACH, 'bnext')
-        planner.wait_for('App: RWY 10 Thornmoor (fictional)')
-        cockpit.wait(lambda: planner.warns(), 3, 'the warning of the low accuracy')
-        planner.keep('warned')
+        plan = planner.saved()
+        assert plan['proc[0].appId'] == 'TrafficPatternApproach' and plan['proc[0].threshold.name'] == '10', plan
+        assert plan['proc[0].isLeftTraffic'] == '1' and plan['proc[0].targetGroundSpeed'] == '120', plan
+        assert not planner.warns(), 'messages are off'
+        planner.press(PLAN, 'bclose', planner.lower_area())
+        cockpit.wait(planner.warns, 3, 'the warning of the unknown accuracy')
         assert cockpit.close() == 0

@@ -18,6 +18,7 @@ from PIL import Image  # noqa: E402
 from cockpit import Cockpit, end  # noqa: E402
 from dials import panel_area  # noqa: E402
 from glass import Glass  # noqa: E402
+from islands import install  # noqa: E402
 from test_links import SIMULATOR  # noqa: E402
 from test_profiles import Screen, asking, wait_for_screen  # noqa: E402
 from test_touch import Fingers  # noqa: E402
@@ -180,6 +181,49 @@ def scene_calibration():
         keep(cockpit.look(), 'calibration')
     finally:
         cockpit.__exit__()
+
+
+def scene_procedures():
+    """Over the fictional region, from the flight plan's window on."""
+    with Cockpit(sys.argv[1], DEMO, SIZE, prepare=install(sys.argv[1])) as cockpit:
+        start(cockpit)
+        cockpit.feed('--hold', '--state', 'latitude=42.3,longitude=-28.4,altitude_ft=3500,heading=30,ias_kt=110')
+        time.sleep(2)
+        glass = Glass(cockpit)
+
+        def press(screen, name):
+            glass.press('procedures/dialogs/documents/%s*.ini' % screen, name)
+
+        def choose(screen, name, row):
+            left, top, right, _ = glass.element_rect('procedures/dialogs/documents/%s*.ini' % screen, name)
+            glass.click((left + right) / 2, top + (row + 0.5) * glass.button)
+
+        def search(text):
+            glass.press('gui/menu/documents/flightPlan*.ini', 'bcreate', glass.lower_area())
+            for letter in text:
+                cockpit.key(letter)
+            cockpit.key('Return')
+            time.sleep(0.5)
+
+        glass.open('FlightPlan')
+        search('xstm')
+        choose('chooseProcedure', 'lprocedures', 1)
+        keep(cockpit.look(), 'procedure')
+        press('chooseProcedure', 'bnext')
+        choose('approach', 'lprofiles', 2)
+        keep(cockpit.look(), 'approach')
+        press('approach', 'bgeneral')
+        keep(cockpit.look(), 'procedure-general')
+        press('generalProcedure', 'bback')
+        press('approach', 'bback')
+        press('chooseProcedure', 'bcancel')
+        search('ncp')
+        press('chooseProcedure', 'bnext')
+        keep(cockpit.look(), 'intercept')
+        press('intercept', 'back')
+        choose('chooseProcedure', 'lprocedures', 1)
+        press('chooseProcedure', 'bnext')
+        keep(cockpit.look(), 'holding')
 
 
 def main():
