@@ -21,11 +21,9 @@ namespace {
 constexpr NumberEditBox::Range FinalMiles{0.0, 50.0, 1.0, 10.0};
 constexpr NumberEditBox::Range AltitudeFeet{-2000.0, 30000.0, 100.0, 5000.0};
 constexpr int RunwayWidth = 6;
-const irr::video::SColor warningColor(0xffffb43c), runwayColor(0xfff2f5f9);
-
-void colorText(irr::gui::IGUIElement* element, irr::video::SColor color) {
-    static_cast<irr::gui::IGUIStaticText*>(element)->setOverrideColor(color);
-}
+/// Of a final that most aircraft fly without haste.
+constexpr double FlattestDegrees = 1.5, SteepestDegrees = 6.5;
+const irr::video::SColor runwayColor(0xfff2f5f9);
 
 bool isChangeOf(const irr::SEvent& event, const irr::gui::IGUIElement* box) {
     return event.GUIEvent.EventType == NumberEditBox::NumberChanged && event.GUIEvent.Caller == box;
@@ -66,7 +64,7 @@ void ApproachScreen::showWarnings() {
     const std::string threshold = thresholdWarning(landing_), accuracy = accuracyWarning(landing_);
     const std::string text = threshold + (threshold.empty() || accuracy.empty() ? "" : "\n") + accuracy;
     showText(element("twarning"), decodeUtf8(text).c_str());
-    colorText(element("twarning"), warningColor);
+    colorText(element("twarning"), WarningColor);
 }
 
 void ApproachScreen::onEvent(const irr::SEvent& event) {
@@ -91,10 +89,12 @@ void ApproachScreen::refresh() {
     altitude_->setValue(values.getFafAltitude());
     const int rate = values.getDescentRate(), knots = factory_.getGeneralValues().approximateGroundSpeed;
     showText(element("tdescentrate"), decodeUtf8("=> Descent Rate: " + toText(rate) + " ft/NM").c_str());
-    const std::string angle = toFixedText(glideAngleDegrees(rate), 1) + "°, " +
+    const double degrees = glideAngleDegrees(rate);
+    const std::string angle = toFixedText(degrees, 1) + "°, " +
                               toText(roundHalfAway(descentFeetPerMinute(rate, knots) / 10.0) * 10) + " ft/min at " +
                               toText(knots) + " kts";
     showText(element("tangle"), decodeUtf8(angle).c_str());
+    colorText(element("tangle"), degrees < FlattestDegrees || degrees > SteepestDegrees ? WarningColor : PlainColor);
     showPath();
 }
 

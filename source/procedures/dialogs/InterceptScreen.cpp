@@ -19,6 +19,7 @@ namespace {
 
 constexpr double ShownMetres = 30.0 * MetresPerNauticalMile, SeenMetres = 2.0 * MetresPerNauticalMile;
 constexpr int LineWidth = 2;
+constexpr const wchar_t* BeyondText = L"Met beyond the fix: another line, offset or \"From\" suits better.";
 const irr::video::SColor lineColor(0xff8fa6bd);
 
 ChartPosition movedAlong(const ChartPosition& from, double courseDegrees, double metres) {
@@ -47,6 +48,7 @@ InterceptScreen::InterceptScreen(Context& context, InterceptProcedureFactory& fa
     showText(element("ttitle"), decodeUtf8(factory.getName() + ": " + place).c_str());
     PreviewPane::add(context, window(), gui().getSpecialRectangle("spreview"),
                      [this](const irr::core::rect<int>& rect) { preview_.paint(rect); });
+    colorText(element("twarning"), WarningColor);
     fillAirways();
     refresh();
 }
@@ -95,6 +97,7 @@ void InterceptScreen::refresh() {
             scene.course = made->getCourseList();
         }
     }
+    showText(element("twarning"), factory_.isMetBeyond(scene.course) ? BeyondText : L"");
     preview_.show(std::move(scene));
 }
 

@@ -69,6 +69,10 @@ void ProcedureScreen::processEvent(const irr::SEvent& event) {
         finish();
 }
 
+void ProcedureScreen::colorText(irr::gui::IGUIElement* text, uint32_t argb) {
+    static_cast<irr::gui::IGUIStaticText*>(text)->setOverrideColor(irr::video::SColor(argb));
+}
+
 bool ProcedureScreen::isChecked(const char* id) const {
     const auto* box = gui_->get<irr::gui::IGUICheckBox>(id);
     return box && box->isChecked();

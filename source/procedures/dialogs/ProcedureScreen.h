@@ -43,6 +43,9 @@ protected:
         const char* compass = "scompass";
     };
 
+    /// Of texts; what a pilot is to think about.
+    static constexpr uint32_t PlainColor = 0xfff2f5f9, WarningColor = 0xffffb43c;
+
     ProcedureScreen(Context& context, const Form& form);
 
     /// A GUI event that is none of the three buttons'.
@@ -58,6 +61,7 @@ protected:
     GUI& gui() { return *gui_; }
     irr::gui::IGUIWindow* window() const { return window_.get(); }
     irr::gui::IGUIElement* element(const char* id) const { return gui_->getElement(id); }
+    static void colorText(irr::gui::IGUIElement* text, uint32_t argb);
     bool isChecked(const char* id) const;
     /// The pilot has typed, ticked or chosen something.
     static bool isEntry(const irr::SEvent& event);

@@ -122,6 +122,13 @@ InterceptProcedureFactory::Answer InterceptProcedureFactory::useAirway(int id, d
     return Answer::Good;
 }
 
+bool InterceptProcedureFactory::isMetBeyond(const CourseList& path) const {
+    if (!line_.to || path.empty())
+        return false;
+    const double back = calcBearing2(path.back().position, position_) - line_.courseToElement;
+    return std::fabs(Angle180(back)) > 90.0;
+}
+
 std::unique_ptr<IProcedure> InterceptProcedureFactory::Create() {
     auto intercept = std::make_unique<InterceptProcedure>(getHost()->getCharts(), chartIndex_, line_, this);
     writeGeneralValues(intercept.get());

@@ -39,6 +39,9 @@ public:
     Answer useRadial(double radial, double offset, bool to);
     Answer useAirway(int airway, double offset, bool to);
 
+    /// A path towards the element meets the line only when the element has been passed already.
+    bool isMetBeyond(const CourseList& path) const;
+
     std::unique_ptr<IProcedure> Create() override;
     std::unique_ptr<IProcedure> CreateFromIni(IChartElementSource* charts, IniFile* document,
                                               const std::string& section, unsigned index) override;

@@ -230,6 +230,9 @@ TEST_F(InterceptPath, namesTheRadialAndTakesTheAirwaysThatAreConnected) {
     intercept->calculateCourseList({7.9, 48.1}, 1000.0, 20.0);
     EXPECT_LT(courseError(intercept->getCourseList().back().course, 0.0), 1.0);
     EXPECT_LT(intercept->getCourseList().back().position.latitude, 48.5);
+    EXPECT_FALSE(factory.isMetBeyond(intercept->getCourseList()));
+    intercept->calculateCourseList({7.6, 48.4}, 1000.0, 20.0); // too near for 45 degrees
+    EXPECT_TRUE(factory.isMetBeyond(intercept->getCourseList()));
 }
 
 TEST_F(InterceptPath, holdsOnTheWayInOrOnTheHeadingWhenTooNear) {
