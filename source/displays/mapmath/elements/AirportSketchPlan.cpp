@@ -83,55 +83,96 @@ double distanceToOthers(const std::vector<Strip>& strips, size_t own, const Scal
     return nearest;
 }
 
-/// Where turned text would be too small to read: that of the longest runway, in a corner.
-void addMainLength(SketchPlan& plan, const AirportElement& airport, const SketchFrame& frame) {
-    const Runway* runway = mainRunway(airport);
-    const std::string text = runway ? runwayLengthText(*runway, frame.metric, false) : std::string();
-    const double height = sketchTextHeight(frame);
-    if (!text.empty())
-        plan.texts.push_back({text,
-                              {0.5 * frame.widthOf(text, height) + 5.0, frame.size.Height - 0.5 * height - 3.0},
-                              height,
-                              0.0,
-                              lengthColor});
+constexpr size_t noStrip = std::numeric_limits<size_t>::max();
+
+/// Whether runways come closer to the left end of a line of the picture than to its right end.
+bool isLeftCloser(const std::vector<Strip>& strips, const Scale& scale, const SketchFrame& frame, double y) {
+    const double width = frame.size.Width;
+    return distanceToOthers(strips, noStrip, scale, {0.0, y}) < distanceToOthers(strips, noStrip, scale, {width, y});
 }
 
-/// Along the runway, where the most room is.
+/// Where turned text would be too small to read: that of the longest runway, in the freer of the lower corners.
+void addMainLength(SketchPlan& plan, const AirportElement& airport, const std::vector<Strip>& strips,
+                   const Scale& scale, const SketchFrame& frame) {
+    const Runway* runway = mainRunway(airport);
+    const std::string text = runway ? runwayLengthText(*runway, frame.metric, false) : std::string();
+    if (text.empty())
+        return;
+    const double height = sketchTextHeight(frame), x = 0.5 * frame.widthOf(text, height) + 5.0,
+                 y = frame.size.Height - 0.5 * height - 3.0;
+    const bool isRight = isLeftCloser(strips, scale, frame, frame.size.Height);
+    plan.texts.push_back({text, ShapePoint(isRight ? frame.size.Width - x : x, y), height, 0.0, lengthColor});
+}
+
+/// A length to be written along a runway.
+struct LengthText {
+    size_t strip;
+    ShapePoint along; ///< The direction of reading.
+    double width;
+    double height;
+
+    ShapePath lineAt(const ShapePoint& middle) const {
+        return {middle - along * (0.5 * width), middle, middle + along * (0.5 * width)};
+    }
+};
+
+/// How far the text would keep from other runways and from lengths that are placed already.
+double roomFor(const LengthText& text, const ShapePoint& middle, const std::vector<Strip>& strips, const Scale& scale,
+               const std::vector<ShapePath>& placed) {
+    double room = 3.0 * text.height; // more is no better
+    for (const ShapePoint& point : text.lineAt(middle)) {
+        room = std::min(room, distanceToOthers(strips, text.strip, scale, point) - 0.5 * text.height);
+        for (const ShapePath& other : placed)
+            room = std::min(room, distanceToPath(other, false, point) - text.height);
+    }
+    return room;
+}
+
+/// Beside the runway, where the most room is; in the middle where that is as good.
+ShapePoint freestPlace(const LengthText& text, const std::vector<Strip>& strips, const Scale& scale,
+                       const std::vector<ShapePath>& placed) {
+    const Strip& strip = strips[text.strip];
+    const ShapePoint a = scale(strip.ends[0]), b = scale(strip.ends[1]), across(text.along.Y, -text.along.X);
+    const double width = std::max(leastRunwayWidth, scale(strip.corners[0]).getDistanceFrom(scale(strip.corners[1])));
+    ShapePoint best;
+    double most = -std::numeric_limits<double>::max();
+    for (const double share : {0.5, 0.35, 0.65, 0.25, 0.75})
+        for (const double side : {1.0, -1.0}) {
+            const ShapePoint middle = a + (b - a) * share + across * side * (0.5 * width + 0.75 * text.height);
+            const double room = roomFor(text, middle, strips, scale, placed);
+            if (room > most + 0.5) {
+                most = room;
+                best = middle;
+            }
+        }
+    return best;
+}
+
 void addLengths(SketchPlan& plan, const AirportElement& airport, const std::vector<Strip>& strips, const Scale& scale,
                 const SketchFrame& frame) {
     const double height = 0.85 * sketchTextHeight(frame);
     if (height < leastTurnedHeight)
-        return addMainLength(plan, airport, frame);
+        return addMainLength(plan, airport, strips, scale, frame);
     const bool withWidth = frame.size.Width >= 300;
+    std::vector<ShapePath> placed;
     for (size_t i = 0; i < strips.size() && i < airport.runways.size(); ++i) {
-        const std::string text = runwayLengthText(airport.runways[i], frame.metric, withWidth);
+        const std::string words = runwayLengthText(airport.runways[i], frame.metric, withWidth);
         const ShapePoint a = scale(strips[i].ends[0]), b = scale(strips[i].ends[1]);
-        if (text.empty() || frame.widthOf(text, height) > 0.85 * a.getDistanceFrom(b))
+        const double width = frame.widthOf(words, height);
+        if (words.empty() || width > 0.85 * a.getDistanceFrom(b))
             continue;
-        ShapePoint along = towards(a, b);
-        if (along.X < 0.0)
-            along = -along;
-        const ShapePoint across(along.Y, -along.X);
-        const double width =
-            std::max(leastRunwayWidth, scale(strips[i].corners[0]).getDistanceFrom(scale(strips[i].corners[1])));
-        ShapePoint best;
-        double most = -1.0;
-        for (const double share : {0.5, 0.35, 0.65, 0.25, 0.75})
-            for (const double side : {1.0, -1.0}) {
-                const ShapePoint place = a + (b - a) * share + across * side * (0.5 * width + 0.75 * height);
-                const double room = std::min(distanceToOthers(strips, i, scale, place), 3.0 * height);
-                if (room > most + 0.5) {
-                    most = room;
-                    best = place;
-                }
-            }
-        plan.texts.push_back({text, best, height, -std::atan2(along.Y, along.X) * degreesPerRadian, lengthColor});
+        const ShapePoint along = a.X <= b.X ? towards(a, b) : towards(b, a);
+        const LengthText text{i, along, width, height};
+        const ShapePoint middle = freestPlace(text, strips, scale, placed);
+        placed.push_back(text.lineAt(middle));
+        plan.texts.push_back({words, middle, height, -std::atan2(along.Y, along.X) * degreesPerRadian, lengthColor});
     }
 }
 
-void addNorthArrow(SketchPlan& plan, const SketchFrame& frame) {
+void addNorthArrow(SketchPlan& plan, const SketchFrame& frame, bool isRight) {
     const double size = 0.8 * sketchTextHeight(frame);
-    const ShapePoint tip(frame.size.Width - 0.9 * size - 3.0, 0.5 * size + 2.0);
+    const double x = 0.9 * size + 3.0;
+    const ShapePoint tip(isRight ? frame.size.Width - x : x, 0.5 * size + 2.0);
     addConvex(plan.shapes, {tip, tip + ShapePoint(0.45 * size, 1.15 * size), tip + ShapePoint(0.0, 0.85 * size)},
               frameColor);
     addConvex(plan.shapes, {tip, tip + ShapePoint(0.0, 0.85 * size), tip + ShapePoint(-0.45 * size, 1.15 * size)},
@@ -139,7 +180,7 @@ void addNorthArrow(SketchPlan& plan, const SketchFrame& frame) {
     plan.texts.push_back({"N", tip + ShapePoint(0.0, 1.75 * size), size, 0.0, frameColor});
 }
 
-void addScaleBar(SketchPlan& plan, const SketchFrame& frame) {
+void addScaleBar(SketchPlan& plan, const SketchFrame& frame, bool isRight) {
     if (frame.size.Width < 220 || frame.size.Height < 150)
         return;
     const double unit = frame.metric ? 1.0 : MetresPerFoot;
@@ -148,7 +189,9 @@ void addScaleBar(SketchPlan& plan, const SketchFrame& frame) {
         if (candidate * unit * plan.pixelsPerMetre <= 0.25 * frame.size.Width)
             value = candidate;
     const double length = value * unit * plan.pixelsPerMetre, height = 0.72 * sketchTextHeight(frame);
-    const ShapePoint left(0.6 * height + 2.0, frame.size.Height - 0.6 * height - 2.0), up(0.0, -0.35 * height);
+    const double x = 0.6 * height + 2.0;
+    const ShapePoint left(isRight ? frame.size.Width - x - length : x, frame.size.Height - 0.6 * height - 2.0),
+        up(0.0, -0.35 * height);
     const Stroke stroke{1.6f, frameColor, false, 0.0f, 0.0f};
     addStroke(plan.shapes, {left + up, left, left + ShapePoint(length, 0.0), left + up + ShapePoint(length, 0.0)},
               stroke, viewOf(frame));
@@ -228,8 +271,8 @@ SketchPlan planAirportSketch(const AirportElement& airport, const AirportGround&
     }
     addLengths(plan, airport, strips, scale, frame);
     addIdents(plan, airport, strips, scale, frame);
-    addNorthArrow(plan, frame);
-    addScaleBar(plan, frame);
+    addNorthArrow(plan, frame, isLeftCloser(strips, scale, frame, 0.0));
+    addScaleBar(plan, frame, isLeftCloser(strips, scale, frame, frame.size.Height));
     return plan;
 }
 
