@@ -152,6 +152,7 @@ private:
     bool processKey(const irr::SEvent::SKeyInput& key);
     bool processButton(const irr::SEvent& event);
     bool apply(const MapGesture& gesture);
+    void endDrag();
     void zoomBySteps(double steps);
     void changeOptions();
 

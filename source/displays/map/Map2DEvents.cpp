@@ -41,7 +41,8 @@ bool Map2D::processMouse(const irr::SEvent::SMouseInput& mouse) {
             return true;
         return apply(gestures.press(point, MilliSecs(), parts_->view.getZoom()));
     case irr::EMIE_MOUSE_MOVED:
-        return mouse.isLeftPressed() ? apply(gestures.move(point)) : true;
+        // A finger that was lifted over something else is told no release.
+        return apply(mouse.isLeftPressed() ? gestures.move(point) : gestures.release(point, MilliSecs()));
     case irr::EMIE_LMOUSE_LEFT_UP:
         return apply(gestures.release(point, MilliSecs()));
     case irr::EMIE_MOUSE_WHEEL:
@@ -111,8 +112,7 @@ bool Map2D::apply(const MapGesture& gesture) {
         view.setPan(gesture.point);
         break;
     case MapGesture::DragEnd:
-        view.commitPan();
-        view.setMode(MapMode::Marker);
+        endDrag();
         break;
     case MapGesture::Tap:
         // What was touched, as the map lay and turned then.
@@ -121,10 +121,17 @@ bool Map2D::apply(const MapGesture& gesture) {
     case MapGesture::PinchStart:
         if (isFollowing(pressedView_.getMode()) && !isFollowing(view.getMode()))
             view.follow();
+        else if (!isFollowing(view.getMode()))
+            endDrag();
         pressedView_ = view;
         break;
     }
     return false;
+}
+
+void Map2D::endDrag() {
+    parts_->view.commitPan();
+    parts_->view.setMode(MapMode::Marker);
 }
 
 bool Map2D::processButton(const irr::SEvent& event) {

@@ -190,6 +190,8 @@ void MapControls::drawTrouble(const Rect& panel, const MapReadings& readings) {
         words = L"NO POSITION";
     else if (readings.headingLevel == ISensor::WRONG && view_.getMode() == MapMode::TrackUp)
         words = L"NO HEADING";
+    else if (readings.altitudeLevel == ISensor::WRONG && map_.getSwitches().terrainEnable)
+        words = L"NO ALTITUDE";
     if (!words)
         return;
     set(trouble_, words, white);

@@ -30,6 +30,7 @@ constexpr double directSeconds = 300.0;
 constexpr double uprightDegrees = 30.0;
 constexpr double altitudeStepMetres = 76.2;
 constexpr double altitudeArea = 15.0;
+constexpr double farAboveMetres = 100000.0;
 constexpr int liveProcedures = 7;
 constexpr int softwareLargestEdge = 2048;
 /// Symbols reach into the panel from that far beyond its edge.
@@ -130,7 +131,9 @@ void MapParts::drawGround() {
         return;
     if (view.getMode() != MapMode::Dragging)
         terrain.requestIfNeeded(view);
-    terrain.draw(view, map.getAltitude(), !wasBackgroundDrawn_);
+    // From an altitude that nobody knows no ground can be told to be near; the map says so in words.
+    const bool isKnown = readings.altitudeLevel != ISensor::WRONG;
+    terrain.draw(view, isKnown ? map.getAltitude() : farAboveMetres, !wasBackgroundDrawn_);
 }
 
 void MapParts::drawDirectly() {

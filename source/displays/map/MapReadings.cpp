@@ -44,7 +44,10 @@ void MapReadings::update(SensorManager& sensors) {
     else
         headingLevel = ISensor::WRONG;
     const double altitude = sensors.getIndicatedAltitude();
-    if (std::isfinite(altitude))
+    ISensor* source = sensors.getDefaultSensor(sensors.getIndicatedAltitudeSource());
+    const bool isKnown = source && source->getData(sensors.getIndicatedAltitudeSource()) && std::isfinite(altitude);
+    altitudeLevel = isKnown ? levelOf(sensors, *source, sensors.getIndicatedAltitudeSource()) : ISensor::WRONG;
+    if (isKnown)
         altitudeMetres = altitude;
 }
 

@@ -15,6 +15,7 @@ struct MapReadings {
     bool hasPosition = false;    ///< There was one, ever.
     ISensor::WarningLevel positionLevel = ISensor::WRONG;
     ISensor::WarningLevel headingLevel = ISensor::WRONG;
+    ISensor::WarningLevel altitudeLevel = ISensor::WRONG;
 
     void update(SensorManager& sensors);
     ISensor::WarningLevel getWorst() const;

@@ -4,6 +4,7 @@
 #include "chart/areas/AreaNode.h"
 #include "chart/geodesy/GreatCircle.h"
 #include "chart/store/IChart.h"
+#include "core/time/Time.h"
 #include "displays/map/IChartElementRenderer.h"
 #include "displays/map/Map2D.h"
 #include "displays/map/MapContents.h"
@@ -15,6 +16,7 @@ namespace skyvane {
 namespace {
 
 constexpr double nearMetres = 2.0;
+constexpr double dragSeconds = 0.15;
 constexpr double reachDegrees = 0.25;
 constexpr uint8_t typeMask = 0x3f; // of the first static byte
 
@@ -42,11 +44,16 @@ void MapSelection::next() {
 
 void MapSelection::update() {
     const ChartPosition position = getPosition();
+    // While a finger moves the map, a few times a second do.
+    const bool isEarly = view_.getMode() == MapMode::Dragging && Secs() - lookedAtSeconds_ < dragSeconds;
+    if (isEarly)
+        return;
     if (!isStale_ && calcDistance2(position, lookedAt_) <= nearMetres)
         return;
     const int before = getIndex();
     const bool isElsewhere = calcDistance2(position, lookedAt_) > nearMetres;
     lookedAt_ = position;
+    lookedAtSeconds_ = Secs();
     isStale_ = false;
     find();
     current_ = 0;

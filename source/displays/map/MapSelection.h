@@ -55,6 +55,7 @@ private:
     std::vector<Candidate> candidates_;
     size_t current_ = 0;
     ChartPosition lookedAt_{-1000.0, 0.0};
+    double lookedAtSeconds_ = 0.0;
     bool isStale_ = true;
 };
 

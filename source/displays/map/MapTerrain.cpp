@@ -19,7 +19,9 @@ namespace {
 constexpr double reserve = 0.3;
 /// Pixels of the screen that share one of the picture.
 constexpr double coarseness = 2.0;
-constexpr int smallestSide = 64, largestSide = 1024;
+constexpr int smallestSide = 16, largestSide = 1024;
+/// Finer pixels than that would show the whole metres of the heights as terraces; the shader smooths between them.
+constexpr double finestMetres = 60.0;
 /// A picture of another scale than the view's serves as long as the two differ no more.
 constexpr double tolerableScale = 1.6;
 constexpr float overlayAlpha = 0.0f, warningAlpha = 0.75f;
@@ -74,8 +76,9 @@ void MapTerrain::request(const MapView& view) {
         return;
     isWanted_ = false;
     askedBox_ = wantedBox(view);
-    const auto side = [](double degrees, double degreesPerPixel) {
-        const double pixels = degrees / degreesPerPixel / coarseness;
+    const double screenPixels = std::max(coarseness, finestMetres / view.getMetresPerPixel());
+    const auto side = [screenPixels](double degrees, double degreesPerPixel) {
+        const double pixels = degrees / degreesPerPixel / screenPixels;
         return static_cast<irr::u32>(std::clamp(pixels, double(smallestSide), double(largestSide)));
     };
     const irr::core::dimension2d<irr::u32> size(side(askedBox_.getWidth(), view.getLongitudePerPixel()),

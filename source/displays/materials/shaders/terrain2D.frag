@@ -37,8 +37,8 @@ void main() {
     vec3 southEast = unpack(texel + vec2(1.0, 1.0));
     // Ground that nobody knows is 12000 metres deep in the picture: a hatch, never to be taken for the sea.
     if (min(min(northWest.z, northEast.z), min(southWest.z, southEast.z)) < -47.0) {
-        float hatch = 1.0 - step(2.0, mod(gl_FragCoord.x + gl_FragCoord.y, 14.0));
-        gl_FragColor = vec4(0.0, 0.0, 0.0, 0.3 * hatch * uNormalAlpha);
+        float hatch = 1.0 - step(2.0, mod(gl_FragCoord.x + gl_FragCoord.y, 20.0));
+        gl_FragColor = vec4(0.0, 0.0, 0.0, 0.22 * hatch * uNormalAlpha);
         return;
     }
     vec3 ground = mix(mix(northWest, northEast, share.x), mix(southWest, southEast, share.x), share.y);
