@@ -35,6 +35,7 @@ std::vector<Bench> gdl90Benches();
 std::vector<Bench> planBenches();
 std::vector<Bench> hypertextBenches();
 std::vector<Bench> mapBenches();
+std::vector<Bench> visionBenches();
 
 /// Seconds of one call.
 double secondsOf(const std::function<void()>& work);

@@ -16,19 +16,20 @@ std::string buildFolder;
 /// One line for each file beside this one.
 using MakeBenches = std::vector<Bench> (*)();
 constexpr MakeBenches allBenches[] = {
-    recordBenches,  //
-    logBenches,     //
-    nmeaBenches,    //
-    frameBenches,   //
-    startBenches,   //
-    areaBenches,    //
-    dialogBenches,  //
-    chartBenches,   //
-    terrainBenches, //
-    labelBenches,   //
-    gdl90Benches,   //
-    planBenches,    //
-    hypertextBenches, mapBenches,
+    recordBenches,    //
+    logBenches,       //
+    nmeaBenches,      //
+    frameBenches,     //
+    startBenches,     //
+    areaBenches,      //
+    dialogBenches,    //
+    chartBenches,     //
+    terrainBenches,   //
+    labelBenches,     //
+    gdl90Benches,     //
+    planBenches,      //
+    hypertextBenches, //
+    mapBenches,       visionBenches,
 };
 
 bool holds(const Bench& bench, double value) {
