@@ -16,6 +16,19 @@ EngineRef<irr::scene::SMesh> makeMesh() {
 
 } // namespace
 
+GateShape readGateShape(irr::scene::IMesh* mesh) {
+    GateShape shape;
+    for (irr::u32 i = 0; mesh && i < mesh->getMeshBufferCount(); ++i) {
+        const irr::scene::IMeshBuffer* buffer = mesh->getMeshBuffer(i);
+        const auto first = static_cast<uint16_t>(shape.corners.size());
+        for (irr::u32 vertex = 0; vertex < buffer->getVertexCount(); ++vertex)
+            shape.corners.push_back({buffer->getPosition(vertex), buffer->getNormal(vertex)});
+        for (irr::u32 index = 0; index < buffer->getIndexCount(); ++index)
+            shape.indices.push_back(static_cast<uint16_t>(first + buffer->getIndices()[index]));
+    }
+    return shape;
+}
+
 HighwayMeshes::HighwayMeshes() : active_(makeMesh()), buffer_(makeMesh()) {}
 
 void HighwayMeshes::fill(const HighwayMesh& mesh) {

@@ -7,6 +7,9 @@
 
 namespace skyvane {
 
+/// The shape of a rectangle from a mesh; an empty one for null.
+GateShape readGateShape(irr::scene::IMesh* mesh);
+
 /// Two engine meshes of the highway that take turns: one is drawn while the other is filled. Main thread only.
 class HighwayMeshes {
 public:

@@ -39,6 +39,8 @@ int largestPowerOfTwoUpTo(unsigned limit) {
 ProcedureManager::ProcedureManager(Context* context)
     : context_(context), saved_(context->getPath(PlansFile)),
       sideViewPoints_(largestPowerOfTwoUpTo(context->getIrrlichtDevice()->getVideoDriver()->getScreenSize().Width)) {
+    highway_.setShape(
+        readGateShape(context->getPanelManager()->getMeshHWMapped(context->getPath("media/rect.b3d").c_str())));
     if (!highway_.start())
         logText("No thread for the highway in the sky: there will be none.\n");
 }
@@ -208,6 +210,7 @@ void ProcedureManager::updateHighway(const FlightReadings& readings, bool force)
         aircraft.position = *readings.position;
         aircraft.altitudeMetres = *readings.altitude;
     }
+    aircraft.size.spacingMetres = highwaySpacing_;
     if (values.checkCourse)
         aircraft.size.widthMetres = 2.0 * values.positionTolerance;
     if (values.checkAltitude)

@@ -93,6 +93,8 @@ public:
     /// Other charts and terrain are loaded: finds what procedures lead to again.
     void OnChartChanged();
 
+    /// From one rectangle of the highway to the next, in metres: the display that asked last decides.
+    void setHighwaySpacing(double metres) { highwaySpacing_ = metres; }
     /// The highway, around the active mesh's position: x east, y up from sea level, z north, in metres. It holds until
     /// the panels are told to delete their nodes.
     irr::scene::IMesh* getActiveMesh() const { return meshes_.getActive(); }
@@ -115,6 +117,7 @@ private:
     ProcedureFactories factories_;
     IniFile saved_;
     HighwayBuilder highway_;
+    double highwaySpacing_ = HighwaySize::StandardSpacingMetres;
     HighwayMesh highwayMesh_;
     HighwayMeshes meshes_;
     bool pathChanged_ = false;

@@ -5,6 +5,7 @@
 #include "displays/PanelManager.h"
 #include "displays/gauges/AttitudeGauge.h"
 #include "displays/visionmath/ScenePlaces.h"
+#include "procedures/ProcedureManager.h"
 
 #include <cmath>
 
@@ -21,7 +22,10 @@ Map3D::Map3D(Context* context, const VisionSettings& settings, std::string secti
     : IPanel(context), settings_(settings), section_(std::move(section)), effective_(settings.switches),
       drawer_(context->getDrawer()), stage_(context->getIrrlichtDevice()->getVideoDriver()), sky_(context),
       terrain_(context), highway_(context), elements_(context), labels_(context), aircraft_(context, "media/plane.b3d"),
-      traffic_(context), symbols_(context), flags_(context), bars_(context, settings), buttons_(context) {}
+      traffic_(context), symbols_(context), flags_(context), bars_(context, settings), buttons_(context) {
+    constexpr double planeWidths = 50.0;
+    context->getProcedureManager()->setHighwaySpacing(planeWidths * settings.planeWidthMetres);
+}
 
 void Map3D::OnPageChange() {
     finger_.cancel();

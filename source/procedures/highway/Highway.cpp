@@ -14,7 +14,7 @@ namespace {
 using Place = irr::core::vector3d<double>;
 
 constexpr double ShortestLegMetres = 1e-7;
-constexpr double BarShare = 0.06; // of the shorter side
+constexpr float BarShare = 0.06f; // of a side
 constexpr uint32_t PathColor = 0xffff00ff;
 constexpr uint32_t TransitionColor = 0xff0080ff;
 
@@ -66,32 +66,57 @@ irr::core::vector3d<float> rounded(const Place& place) {
     return {static_cast<float>(place.X), static_cast<float>(place.Y), static_cast<float>(place.Z)};
 }
 
-/// A frame of four bars: four outer corners, four inner ones.
-void appendGate(const HighwayGate& gate, const HighwaySize& size, HighwayMesh& mesh) {
+/// A face that looks along the course keeps its colour.
+uint32_t shaded(uint32_t argb, float onwards) {
+    constexpr float darkest = 0.8f;
+    const float light = darkest + (1.0f - darkest) * std::abs(onwards);
+    uint32_t result = argb & 0xff000000u;
+    for (const unsigned shift : {0u, 8u, 16u})
+        result |= static_cast<uint32_t>(static_cast<float>((argb >> shift) & 0xffu) * light + 0.5f) << shift;
+    return result;
+}
+
+void appendGate(const HighwayGate& gate, const HighwaySize& size, const GateShape& shape, HighwayMesh& mesh) {
     const double course = gate.course / DegreesPerRadian;
-    const Place right(std::cos(course), 0.0, -std::sin(course));
-    const Place normal(-std::sin(course), 0.0, -std::cos(course));
-    const double bar = BarShare * std::min(size.widthMetres, size.heightMetres);
+    const Place right(std::cos(course), 0.0, -std::sin(course)), up(0.0, 1.0, 0.0);
+    const Place onwards(std::sin(course), 0.0, std::cos(course));
+    const auto turned = [&](const irr::core::vector3d<float>& v, double x, double y, double z) {
+        return right * (static_cast<double>(v.X) * x) + up * (static_cast<double>(v.Y) * y) +
+               onwards * (static_cast<double>(v.Z) * z);
+    };
     const auto first = static_cast<uint16_t>(mesh.vertices.size());
-    for (int corner = 0; corner < HighwayMesh::VerticesPerGate; ++corner) {
-        const bool isInner = corner >= 4, isRight = corner % 4 == 1 || corner % 4 == 2, isTop = corner % 4 >= 2;
-        const double x = size.widthMetres / 2.0 - (isInner ? bar : 0.0);
-        const double y = size.heightMetres / 2.0 - (isInner ? bar : 0.0);
-        const Place place = gate.place + right * (isRight ? x : -x) + Place(0.0, isTop ? y : -y, 0.0);
-        mesh.vertices.push_back({rounded(place), rounded(normal), gate.transition ? TransitionColor : PathColor});
+    for (const GateShape::Corner& corner : shape.corners) {
+        const Place place =
+            gate.place + turned(corner.position, size.widthMetres, size.heightMetres, GateShape::DepthMetres);
+        mesh.vertices.push_back({rounded(place), rounded(turned(corner.normal, 1.0, 1.0, 1.0)),
+                                 shaded(gate.transition ? TransitionColor : PathColor, corner.normal.Z)});
     }
-    for (uint16_t side = 0; side < 4; ++side) {
-        const auto next = static_cast<uint16_t>((side + 1) % 4);
-        for (const int offset : {+side, +next, next + 4, +side, next + 4, side + 4})
-            mesh.indices.push_back(static_cast<uint16_t>(first + offset));
-    }
+    for (const uint16_t index : shape.indices)
+        mesh.indices.push_back(static_cast<uint16_t>(first + index));
 }
 
 } // namespace
 
+/// Four outer corners, four inner ones.
+GateShape GateShape::flatFrame() {
+    GateShape shape;
+    for (int corner = 0; corner < HighwayMesh::VerticesPerGate; ++corner) {
+        const bool isInner = corner >= 4, isRight = corner % 4 == 1 || corner % 4 == 2, isTop = corner % 4 >= 2;
+        const float reach = 0.5f - (isInner ? BarShare : 0.0f);
+        shape.corners.push_back({{isRight ? reach : -reach, isTop ? reach : -reach, 0.0f}, {0.0f, 0.0f, -1.0f}});
+    }
+    for (int side = 0; side < 4; ++side) {
+        const int next = (side + 1) % 4;
+        for (const int index : {side, next, next + 4, side, next + 4, side + 4})
+            shape.indices.push_back(static_cast<uint16_t>(index));
+    }
+    return shape;
+}
+
 std::vector<HighwayGate> placeGates(const std::vector<CourseElement>& path, const ChartPosition& aircraft,
-                                    double altitudeMetres, double& coveredMetres) {
-    constexpr double spacing = HighwayMesh::SpacingMetres;
+                                    double altitudeMetres, double spacingMetres, double& coveredMetres) {
+    constexpr double leastSpacing = 50.0; // also where it is no number
+    const double spacing = spacingMetres > leastSpacing ? spacingMetres : leastSpacing;
     coveredMetres = std::numeric_limits<double>::infinity();
     std::vector<HighwayGate> gates;
     const std::vector<Leg> legs = legsOf(path, aircraft);
@@ -121,12 +146,12 @@ std::vector<HighwayGate> placeGates(const std::vector<CourseElement>& path, cons
 }
 
 void buildHighway(const std::vector<CourseElement>& path, const ChartPosition& aircraft, double altitudeMetres,
-                  const HighwaySize& size, HighwayMesh& mesh) {
+                  const HighwaySize& size, const GateShape& shape, HighwayMesh& mesh) {
     mesh.centre = aircraft;
     mesh.vertices.clear();
     mesh.indices.clear();
-    for (const HighwayGate& gate : placeGates(path, aircraft, altitudeMetres, mesh.coveredMetres))
-        appendGate(gate, size, mesh);
+    for (const HighwayGate& gate : placeGates(path, aircraft, altitudeMetres, size.spacingMetres, mesh.coveredMetres))
+        appendGate(gate, size, shape, mesh);
 }
 
 } // namespace skyvane

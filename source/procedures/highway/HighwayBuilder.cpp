@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <pthread.h>
+#include <utility>
 
 namespace skyvane {
 namespace {
@@ -26,6 +27,14 @@ HighwayBuilder::~HighwayBuilder() {
         pthread_join(thread_, nullptr);
 }
 
+void HighwayBuilder::setShape(GateShape shape) {
+    const auto isCorner = [&shape](uint16_t index) { return index < shape.corners.size(); };
+    const bool usable = !shape.indices.empty() && shape.corners.size() <= GateShape::MostCorners &&
+                        std::all_of(shape.indices.begin(), shape.indices.end(), isCorner);
+    if (usable && !started_)
+        shape_ = std::move(shape);
+}
+
 bool HighwayBuilder::start() {
     if (!started_)
         started_ = createThread(thread_, &HighwayBuilder::procMain, this, true, 0);
@@ -43,8 +52,7 @@ void* HighwayBuilder::procMain(void* self) {
 }
 
 bool HighwayBuilder::isWorn(const Aircraft& aircraft) const {
-    return !isBuilt_ || aircraft.size.widthMetres != builtSize_.widthMetres ||
-           aircraft.size.heightMetres != builtSize_.heightMetres ||
+    return !isBuilt_ || !(aircraft.size == builtSize_) ||
            calcDistance2(builtAt_, aircraft.position) > std::min(coveredMetres_ / 2.0, MostMovedMetres);
 }
 
@@ -70,7 +78,7 @@ bool HighwayBuilder::runRound() {
         return true;
     if (!isWorn(aircraft))
         return true;
-    buildHighway(builtPath_, aircraft.position, aircraft.altitudeMetres, aircraft.size, loading_);
+    buildHighway(builtPath_, aircraft.position, aircraft.altitudeMetres, aircraft.size, shape_, loading_);
     builtAt_ = aircraft.position;
     builtSize_ = aircraft.size;
     coveredMetres_ = loading_.coveredMetres;

@@ -34,6 +34,8 @@ public:
     HighwayBuilder(const HighwayBuilder&) = delete;
     HighwayBuilder& operator=(const HighwayBuilder&) = delete;
 
+    /// Before start(): the form of the rectangles. One that has no triangles, or too many corners, isn't taken.
+    void setShape(GateShape shape);
     /// False when there is no thread to be had.
     bool start();
     /// One round of the thread, without its sleep. False when the thread shall end.
@@ -52,6 +54,7 @@ private:
     bool started_ = false;
 
     // The thread's.
+    GateShape shape_ = GateShape::flatFrame();
     std::vector<CourseElement> builtPath_;
     ChartPosition builtAt_;
     HighwaySize builtSize_;

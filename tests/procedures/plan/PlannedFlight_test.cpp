@@ -152,6 +152,33 @@ TEST_F(Corridor, holdsTheAirportsBesideThePathInItsOrder) {
     EXPECT_EQ(names(50000.0, kinds).substr(0, 13), "BEHIND EARLY ");
 }
 
+TEST(Highway, takesAnyShapeThatFitsItsIndices) {
+    FlightPlan plan;
+    goNorth(plan);
+    GateShape bar; // one triangle, tilted along the course
+    bar.corners = {
+        {{-0.5f, 0.5f, 0.5f}, {0, 0, 1}}, {{0.5f, 0.5f, 0.5f}, {0, 1, 0}}, {{0.0f, -0.5f, -0.5f}, {0, 0, -1}}};
+    bar.indices = {0, 1, 2};
+    GateShape wrong = bar, huge = bar;
+    wrong.indices[2] = 3;
+    huge.corners.resize(GateShape::MostCorners + 1);
+    HighwayBuilder highway;
+    for (const GateShape& shape : {bar, wrong, huge, GateShape()})
+        highway.setShape(shape);
+    HighwayMesh mesh;
+    const HighwayBuilder::Aircraft aircraft{true, {8.0, 50.3}, 1300.0, {60.0, 40.0}};
+    highway.setPath(plan.getCurrent()->getCourseList());
+    highway.exchange(aircraft, mesh);
+    highway.runRound();
+    ASSERT_TRUE(highway.exchange(aircraft, mesh));
+    ASSERT_EQ(mesh.vertices.size() % 3, 0u);
+    const HighwayVertex* corner = mesh.vertices.data();
+    EXPECT_NEAR(corner[0].position.getDistanceFrom(corner[1].position), 60.0f, 0.1f);
+    EXPECT_NEAR(corner[0].position.Z - corner[2].position.Z, 66.0f, 0.1f);
+    EXPECT_EQ(corner[0].color, 0xffff00ffu) << "looks along the course";
+    EXPECT_LT(corner[1].color & 0xff, 0xe0u) << "looks up";
+}
+
 TEST(Highway, standsOnThePathAtEqualDistancesAndFollows) {
     FlightPlan plan;
     goNorth(plan);
@@ -175,6 +202,12 @@ TEST(Highway, standsOnThePathAtEqualDistancesAndFollows) {
     }
     for (const uint16_t index : mesh.indices)
         ASSERT_LT(index, mesh.vertices.size());
+    const size_t standard = mesh.vertices.size();
+    aircraft.size.spacingMetres = 2000.0;
+    highway.exchange(aircraft, mesh);
+    highway.runRound();
+    ASSERT_TRUE(highway.exchange(aircraft, mesh));
+    EXPECT_NEAR(mesh.vertices.size(), standard / 2, 4 * HighwayMesh::VerticesPerGate) << "other distances";
     aircraft.position.latitude = 50.34; // 4.4 km on
     EXPECT_FALSE(highway.exchange(aircraft, mesh));
     highway.runRound();
