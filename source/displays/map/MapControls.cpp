@@ -100,8 +100,11 @@ void MapControls::drawCompass(const Rect& panel) {
     Drawer2D* drawer = map_.getDrawer();
     const int edge = compassEdge(), height = view_.getPanel().height;
     const Rect square(0, height - edge, edge, height);
-    map_.getContext()->getPanelManager()->updateNonMessageYArea(panel.UpperLeftCorner.Y + square.UpperLeftCorner.Y,
-                                                                panel.UpperLeftCorner.Y + height);
+    const int middle = static_cast<int>(map_.getContext()->getScreenMetrics().width) / 2;
+    const bool isUnderMessages = panel.UpperLeftCorner.X <= middle && panel.UpperLeftCorner.X + edge >= middle;
+    if (isUnderMessages)
+        map_.getContext()->getPanelManager()->updateNonMessageYArea(panel.UpperLeftCorner.Y + square.UpperLeftCorner.Y,
+                                                                    panel.UpperLeftCorner.Y + height);
     drawer->Draw(images_.compassGround.get(), square);
     const bool trackUp = view_.getMode() == MapMode::TrackUp;
     const PanelTexture& needle = trackUp ? images_.compassNeedle : images_.compassNeedleNorth;

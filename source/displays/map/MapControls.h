@@ -21,7 +21,8 @@ public:
 
     /// Where fingers find them, in pixels of the panel.
     MapGestures::Places places() const;
-    /// `panel` on the screen. Claims the place of the compass button from the messages.
+    /// `panel` on the screen. Claims the place of the compass button from the messages where
+    /// they would cover it.
     void draw(const irr::core::rect<int>& panel, const MapReadings& readings, const MapGestures& gestures);
     /// A box that says so while the first set of tiles is made.
     void drawDrawingBox(const irr::core::rect<int>& panel);
