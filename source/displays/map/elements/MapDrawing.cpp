@@ -14,6 +14,7 @@ namespace {
 constexpr double fingerShare = 0.35; ///< Of the shared unit of symbols.
 constexpr double farPixels = 30000.0;
 constexpr double linePixels = 64.0;
+constexpr double farNavaid = 0.62;
 
 Drawer2D::Position toPosition(const ShapePoint& point) {
     const auto whole = [](double value) {
@@ -82,6 +83,10 @@ void drawTurnedSymbol(Map2D& map, const ElementSymbol& symbol, const ShapePoint&
 void drawSymbol(Map2D& map, const ElementSymbol& symbol, const ShapePoint& middle, double edge,
                 const SymbolColors& colors, bool intoRTT) {
     drawTurnedSymbol(map, symbol, middle, edge, colors, intoRTT ? -map.getTopTrack() : 0.0);
+}
+
+double navaidEdge(const Map2D& map) {
+    return map.getElementSizePx() * (map.getViewArea() > largestFullLabelArea ? farNavaid : 1.0);
 }
 
 void drawSelectionRing(Map2D& map, const ShapePoint& middle, double edge) {

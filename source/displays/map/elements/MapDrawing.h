@@ -31,6 +31,8 @@ void drawTurnedSymbol(Map2D& map, const ElementSymbol& symbol, const ShapePoint&
 /// The same upright on the glass: in tiles as the map is turned now.
 void drawSymbol(Map2D& map, const ElementSymbol& symbol, const ShapePoint& middle, double edge,
                 const SymbolColors& colors, bool intoRTT);
+/// The usual edge of navaids and fixes in pixels: smaller where a view holds many.
+double navaidEdge(const Map2D& map);
 /// The ring around a selected symbol.
 void drawSelectionRing(Map2D& map, const ShapePoint& middle, double edge);
 constexpr uint32_t selectionColor = 0xffffe11f;

@@ -22,7 +22,7 @@ void NDBRenderer::renderSketch(const IChartElement* element, const irr::core::re
 
 void NDBRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) {
     const auto& ndb = static_cast<const NDBElement&>(*element);
-    const double edge = map->getElementSizePx();
+    const double edge = navaidEdge(*map);
     if (!map->isInside(ndb.position, edge, edge, intoRTT))
         return;
     const ShapePoint middle = affineOf(*map, intoRTT).toPixels(ndb.position);
@@ -37,7 +37,7 @@ void NDBRenderer::render2D(const IChartElement* element, Map2D* map, int index, 
 
 bool NDBRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,
                                 const irr::core::vector2d<int>& position) {
-    return isMouseOverSymbol(*map, element->getPosition(), map->getElementSizePx(), position);
+    return isMouseOverSymbol(*map, element->getPosition(), navaidEdge(*map), position);
 }
 
 bool NDBRenderer::isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) {

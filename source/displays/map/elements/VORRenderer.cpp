@@ -49,7 +49,7 @@ void VORRenderer::renderSketch(const IChartElement* element, const irr::core::re
 void VORRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) {
     const auto& vor = static_cast<const VORElement&>(*element);
     const MapAffine affine = affineOf(*map, intoRTT);
-    const double edge = map->getElementSizePx(), reach = roseSize * edge;
+    const double edge = navaidEdge(*map), reach = roseSize * edge;
     if (!map->isInside(vor.position, reach, reach, intoRTT))
         return;
     const ShapePoint middle = affine.toPixels(vor.position);
@@ -69,7 +69,7 @@ void VORRenderer::render2D(const IChartElement* element, Map2D* map, int index, 
 
 bool VORRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,
                                 const irr::core::vector2d<int>& position) {
-    return isMouseOverSymbol(*map, element->getPosition(), map->getElementSizePx(), position);
+    return isMouseOverSymbol(*map, element->getPosition(), navaidEdge(*map), position);
 }
 
 bool VORRenderer::isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) {

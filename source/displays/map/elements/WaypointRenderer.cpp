@@ -31,7 +31,7 @@ void WaypointRenderer::renderSketch(const IChartElement* element, const irr::cor
 
 void WaypointRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) {
     const auto& waypoint = static_cast<const WaypointElement&>(*element);
-    const double edge = (waypoint.isPublic ? namedSize : plainSize) * map->getElementSizePx();
+    const double edge = (waypoint.isPublic ? namedSize : plainSize) * navaidEdge(*map);
     if (!map->isInside(waypoint.position, edge, edge, intoRTT))
         return;
     const ShapePoint middle = affineOf(*map, intoRTT).toPixels(waypoint.position);
@@ -46,7 +46,7 @@ void WaypointRenderer::render2D(const IChartElement* element, Map2D* map, int in
 
 bool WaypointRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,
                                      const irr::core::vector2d<int>& position) {
-    return isMouseOverSymbol(*map, element->getPosition(), namedSize * map->getElementSizePx(), position);
+    return isMouseOverSymbol(*map, element->getPosition(), namedSize * navaidEdge(*map), position);
 }
 
 int WaypointRenderer::getSelectPriority(const IChartElement* element) {

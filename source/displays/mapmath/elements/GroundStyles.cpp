@@ -10,7 +10,7 @@ namespace {
 
 using Pattern = GroundStyle::Pattern;
 
-constexpr GroundStyle taxiway = {0xff9aa0a8, 0xff9aa0a8, 0xff4d535b, 1.6f, 0.0f, Pattern::Plain, 20, 0.03f, 0.03f};
+constexpr GroundStyle taxiway = {0xff9aa0a8, 0xff9aa0a8, 0, 1.6f, 0.0f, Pattern::Plain, 20, 0.03f, 0.03f};
 constexpr GroundStyle closedWay = {0xff837d74, 0xff837d74, 0, 1.6f, 1.0f, Pattern::Dashed, 21, 0.03f, 0.03f};
 constexpr GroundStyle apron = {0xffa9aeb5, 0xff6a7078, 0, 1.0f, 0.9f, Pattern::Plain, 24, 0.06f, 0.03f};
 constexpr GroundStyle closedApron = {0xff8d877e, 0xff6a665f, 0, 1.0f, 0.9f, Pattern::Dashed, 25, 0.06f, 0.03f};
