@@ -142,7 +142,7 @@ void Map3D::renderGlass() {
 void Map3D::renderBars() {
     const auto velocity = velocity_.get();
     barReadings_.trackDegrees.reset();
-    if (velocity)
+    if (velocity && readings_.trust.isPlaceShown())
         barReadings_.trackDegrees = std::atan2(velocity->X, velocity->Y) * 57.29577951308232;
     drawer_->flush();
     bars_.render(rect_, barReadings_);

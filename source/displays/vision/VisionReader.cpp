@@ -90,7 +90,7 @@ void readMotion(SensorManager& sensors, PfdReadings& bars) {
 void readAngleOfAttack(SensorManager& sensors, PfdReadings& bars) {
     DialEvidence evidence;
     const auto* record = readDefault<AngleOfAttack_Data>(sensors, ISensorData::AngleOfAttack, evidence);
-    bars.hasAngleOfAttack = record != nullptr;
+    bars.hasAngleOfAttack = record && (record->angle != 0.0f || record->timeStamp != 0);
     if (record) {
         bars.angleOfAttack.value = {static_cast<double>(record->angle), static_cast<double>(record->maximum),
                                     record->inParts != 0};

@@ -78,7 +78,7 @@ void drawAltitudeBar(BarPen& pen, const BarScene& scene) {
     drawGround(bar, tape, scene, unit);
     const double step = chooseStep(100.0, tape.getPixelsPerUnit(), 1.9 * layout.tick);
     bar.scale(tape, 0.2 * step, 5, lowest, [](double mark) { return formatWhole(mark / 100.0); });
-    const ShapeRect window = bar.box();
+    const ShapeRect window = bar.box(BarColor::inkOf(flag));
     pen.counter(RollingDigits(value, drums), window, bar.getDigitsRight(), layout.value, BarColor::inkOf(flag));
 }
 

@@ -65,7 +65,8 @@ struct BarCanvas {
 
 /// The colours of the bars, ARGB.
 namespace BarColor {
-constexpr uint32_t white = 0xfff4f7fb, grey = 0xffb9c3cf, doubtful = 0xffffe11f, failed = 0xfff01c28;
+constexpr uint32_t white = 0xfff4f7fb, grey = 0xffb9c3cf, doubtful = 0xffffe11f, failed = 0xfff01c28,
+                   overspeed = 0xffff4a42;
 constexpr uint32_t simulated = 0xff4fc3ff, shade = 0x78060a10, box = 0xf005070a, label = 0xc805070a;
 constexpr uint32_t bug = 0xffff40ff, track = 0xff40ff60, caution = 0xffffc31f;
 constexpr uint32_t normalArc = 0xff00ff00, cautionArc = 0xffffff00, flapArc = 0xffffffff, redArc = 0xffff0000,

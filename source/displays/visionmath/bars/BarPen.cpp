@@ -6,6 +6,17 @@ namespace {
 /// From one face of a drum to the next, in heights of a digit.
 constexpr double faceSpacing = 1.45;
 
+/// What one colour over another comes to, so that a large area is filled once.
+uint32_t layColor(uint32_t above, uint32_t below) {
+    const double a = (above >> 24) / 255.0, b = (below >> 24) / 255.0 * (1.0 - a), all = a + b;
+    auto mixed = static_cast<uint32_t>(all * 255.0 + 0.5) << 24;
+    for (int shift = 0; all > 0.0 && shift < 24; shift += 8) {
+        const double channel = a * ((above >> shift) & 0xff) + b * ((below >> shift) & 0xff);
+        mixed |= static_cast<uint32_t>(channel / all + 0.5) << shift;
+    }
+    return mixed;
+}
+
 bool isEmpty(const ShapeRect& rect) {
     return !(rect.getWidth() > 0.0) || !(rect.getHeight() > 0.0);
 }
@@ -54,8 +65,7 @@ void BarPen::picture(BarPicture::Kind kind, const ShapeRect& place, uint32_t arg
 }
 
 void BarPen::band(const ShapeRect& place, uint32_t argb) {
-    picture(BarPicture::Band, place, argb, false, BarCanvas::Ground);
-    shade(BarCanvas::Ground, place, BarColor::shade, BarColor::shade);
+    picture(BarPicture::Band, place, layColor(BarColor::shade, argb), false, BarCanvas::Ground);
 }
 
 void BarPen::label(const ShapeRect& place, const ShortText& words, double height, uint32_t argb) {

@@ -34,6 +34,11 @@ void drawStrips(TapeBar& bar, const Tape& tape, const BarScene& scene, bool isGr
     bar.strip(tape, blue - half, blue + half, 0.0, 2.2, color(BarColor::blueLine));
 }
 
+bool isTooFast(const BarScene& scene, const ShownSpeed& speed) {
+    const double limit = scene.readings.speeds.red;
+    return !speed.isGroundSpeed && limit > 0.0 && speed.value >= toSpeedUnit(limit, scene.readings.metric);
+}
+
 void drawGroundSpeed(BarPen& pen, const BarScene& scene) {
     const auto& speed = scene.readings.groundSpeedKnots;
     pen.label(scene.layout.groundSpeed, formatGroundSpeedLine(speed.value, speed.flag, scene.readings.metric),
@@ -56,9 +61,8 @@ void drawSpeedBar(BarPen& pen, const BarScene& scene) {
     drawStrips(bar, tape, scene, speed.isGroundSpeed);
     const double step = chooseStep(10.0, tape.getPixelsPerUnit(), 1.9 * layout.tick);
     bar.scale(tape, 0.5 * step, 2, 0.0, [](double mark) { return formatWhole(mark); });
-    const ShapeRect window = bar.box();
-    pen.counter(RollingDigits(speed.value, speedDrums), window, bar.getDigitsRight(), layout.value,
-                BarColor::inkOf(speed.flag));
+    const uint32_t ink = isTooFast(scene, speed) ? BarColor::overspeed : BarColor::inkOf(speed.flag);
+    pen.counter(RollingDigits(speed.value, speedDrums), bar.box(ink), bar.getDigitsRight(), layout.value, ink);
 }
 
 } // namespace skyvane

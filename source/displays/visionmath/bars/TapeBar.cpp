@@ -60,12 +60,11 @@ void TapeBar::addNumber(double y, const ShortText& number) {
     pen_.text(BarCanvas::Scale, text);
 }
 
-ShapeRect TapeBar::box() {
+ShapeRect TapeBar::box(uint32_t tint) {
     const double half = 0.5 * boxDigits * layout_.value, middle = middleY(place_);
     const double start = edge() + inwards() * getStripWidth();
     const double end = side_ == MarksLeft ? place_.LowerRightCorner.X : place_.UpperLeftCorner.X;
     ShapeRect box(std::min(start, end), middle - half, std::max(start, end), middle + half);
-    const uint32_t tint = flag_ == DialFlag::Doubtful ? BarColor::doubtful : 0xffffffff;
     pen_.picture(BarPicture::Pointer, box, tint, side_ == MarksLeft);
     const double rim = 0.11 * 2.0 * half; // what of the picture lies outside of its frame
     return {box.UpperLeftCorner.X, box.UpperLeftCorner.Y + rim, box.LowerRightCorner.X, box.LowerRightCorner.Y - rim};

@@ -39,8 +39,8 @@ public:
                 addNumber(tape.at(mark), format(mark));
         }
     }
-    /// The pointer box over the middle; gives the window for what is to be read there.
-    ShapeRect box();
+    /// The pointer box over the middle, tinted; gives the window for what is to be read there.
+    ShapeRect box(uint32_t tint);
     double getDigitsRight() const;
     double getStripWidth() const { return strip_ * layout_.barWidth; }
     double edge() const { return side_ == MarksLeft ? place_.UpperLeftCorner.X : place_.LowerRightCorner.X; }

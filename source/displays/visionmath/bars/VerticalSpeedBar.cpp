@@ -38,7 +38,7 @@ void drawVerticalSpeedBar(BarPen& pen, const BarScene& scene) {
     text.height = 0.85 * layout.value;
     text.argb = BarColor::inkOf(flag);
     text.align = BarText::Right;
-    text.place = ShapePoint(bar.getDigitsRight(), middleY(bar.box()));
+    text.place = ShapePoint(bar.getDigitsRight(), middleY(bar.box(BarColor::inkOf(flag))));
     text.most = 0.7 * layout.vertical.getWidth();
     pen.text(BarCanvas::Box, text);
 }

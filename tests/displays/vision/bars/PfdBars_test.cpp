@@ -253,6 +253,13 @@ const Situation situations[] = {
          rig.readings.verticalSpeedMetres.value = -12.0;
          rig.readings.isSatelliteAltitude = true;
      }},
+    {"simulated",
+     [](BarRig& rig) {
+         rig.failAll(DialFlag::Simulated);
+         rig.settings.renderTrueMagHeading = true;
+         rig.readings.magneticDegrees = 350.0;
+         rig.readings.airSpeedKnots.value = 168.0;
+     }},
     {"failed", [](BarRig& rig) { rig.failAll(DialFlag::Failed); }},
 };
 
@@ -270,6 +277,7 @@ TEST(PfdBars, LeaveTheSceneWhatTheySay) {
             rig.readings = PfdReadings();
             rig.fly();
             situation.arrange(rig);
+            rig.bars.reset();
             rig.draw((std::string(shape.name) + "_" + situation.name + ".png").c_str());
             const rect<int> free = rig.bars->getFreeRect(rig.panel);
             const ShapeRect area(free.UpperLeftCorner.X, free.UpperLeftCorner.Y, free.LowerRightCorner.X,
