@@ -1,13 +1,11 @@
 #include "displays/instruments/OneSegmentPanel.h"
 
-#include "chart/elements/IChartElement.h"
-#include "chart/store/IChartElementSource.h"
 #include "core/Context.h"
 #include "core/geometry/Rectangles.h"
-#include "core/text/Utf8.h"
 #include "displays/PanelManager.h"
 #include "displays/drawing/Drawer2D.h"
 #include "displays/gauges/SegmentFormat.h"
+#include "displays/instruments/TargetName.h"
 #include "procedures/framework/IProcedure.h"
 
 #include <algorithm>
@@ -39,19 +37,6 @@ irr::core::rect<int> crossBox(const irr::core::rect<int>& rect) {
     constexpr float widest = 2.2f;
     const irr::core::rect<int> inside = shrunk(rect, 2 * rimOf(rect));
     return inside.getWidth() > widest * inside.getHeight() ? makeXic(inside, widest) : inside;
-}
-
-/// Of the chart element that the procedure leads to; empty for a place without one.
-ShortText nameOfTarget(Context& context, const IProcedure& procedure) {
-    IChartElementSource* charts = context.getCharts();
-    if (!charts || procedure.getLocationType() != ProcedureLocation::ChartElement)
-        return {};
-    const IChartElement* element = charts->getChartElement(procedure.getLocationChartIndex());
-    if (!element || element->getTrieInsertionNameCount() < 1)
-        return {};
-    const std::string name = element->getTrieInsertionName(0);
-    const bool isPlain = std::all_of(name.begin(), name.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
-    return isPlain ? ShortText().append(std::string_view(name)) : ShortText(decodeUtf8(name).c_str());
 }
 
 } // namespace

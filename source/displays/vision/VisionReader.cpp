@@ -1,13 +1,12 @@
 #include "displays/vision/VisionReader.h"
 
 #include "chart/ExtendedChart.h"
-#include "chart/elements/IChartElement.h"
 #include "core/Context.h"
-#include "core/text/Utf8.h"
 #include "displays/PanelManager.h"
 #include "displays/gauges/AttitudeGauge.h"
 #include "displays/gauges/SensorReading.h"
 #include "displays/gauges/TurnGauge.h"
+#include "displays/instruments/TargetName.h"
 #include "displays/visionmath/PfdReadings.h"
 #include "displays/visionmath/ViewPose.h"
 #include "procedures/aircraft/profiles/Aircraft.h"
@@ -25,7 +24,6 @@
 #include "sensors/records/VerticalSpeed_Data.h"
 #include "terrain/TerrainManager.h"
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -121,27 +119,6 @@ void readHeadings(SensorManager& sensors, const VisionReadings& vision, PfdReadi
         bars.magneticDegrees = static_cast<double>(record->magneticHeading);
 }
 
-/// Asks the charts only when the point is another.
-void readFixName(Context& context, const IProcedure& procedure, PfdReadings::NextFix& fix) {
-    if (procedure.getLocationType() != ProcedureLocation::ChartElement) {
-        fix.name[0] = L'\0';
-        return;
-    }
-    if (fix.name[0] && fix.chartIndex == procedure.getLocationChartIndex())
-        return;
-    fix.chartIndex = procedure.getLocationChartIndex();
-    fix.name[0] = L'\0';
-    const IChart* chart = context.getPanelManager()->getChart();
-    const IChartElement* element =
-        chart ? context.getPanelManager()->getChart()->getChartElement(fix.chartIndex) : nullptr;
-    if (!element)
-        return;
-    const std::wstring label = decodeUtf8(element->getIndicatedLabel(false, false));
-    const size_t length = std::min({label.size(), label.find(L'\n'), fix.name.size() - 1});
-    label.copy(fix.name.data(), length);
-    fix.name[length] = L'\0';
-}
-
 void readPlan(Context& context, const VisionReadings& vision, PfdReadings& bars) {
     const IProcedure* procedure = context.getCurrentProcedure();
     PfdReadings::NextFix& fix = bars.nextFix;
@@ -150,8 +127,7 @@ void readPlan(Context& context, const VisionReadings& vision, PfdReadings& bars)
     fix.nauticalMiles = procedure ? procedure->getLength() : -1.0;
     fix.seconds = procedure ? procedure->getETE() : -1;
     fix.flag = vision.trust.position;
-    if (procedure)
-        readFixName(context, *procedure, fix);
+    fix.name = procedure ? nameOfTarget(context, *procedure) : ShortText();
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "displays/gauges/DialFlag.h"
+#include "displays/gauges/ShortText.h"
 #include "displays/gauges/SpeedScale.h"
 
-#include <array>
 #include <optional>
 
 namespace skyvane {
@@ -53,8 +53,7 @@ struct PfdReadings {
     struct NextFix {
         double nauticalMiles = -1.0;
         int seconds = -1;               ///< Negative when it can't be told.
-        std::array<wchar_t, 32> name{}; ///< Ends in a NUL; empty for a place without one.
-        int chartIndex = 0;             ///< Of the chart element that the name is of.
+        ShortText name;                 ///< Empty for a place without one.
         DialFlag flag = DialFlag::Good; ///< Of the position that it was measured from.
     };
     NextFix nextFix;

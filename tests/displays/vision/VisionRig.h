@@ -108,13 +108,15 @@ protected:
         std::filesystem::create_directories(tiles);
         ASSERT_TRUE(saveTile(getTilePath(tiles, 0), flatTile(metres).data()));
     }
-    /// The chart and the terrain are made with the (empty) page of panels, the view beside them.
+    /// The chart and the terrain are made with the (empty) page of panels, the view beside them, without bars.
     void makePanel(const std::string& options = "") {
         IniFile ini;
         ini.set("", "optimized", "0");
         context->getPanelManager()->loadPanelSettingsFromIni(&ini, nullptr, true, false);
         IniFile own;
-        own.setFromString(("[P0]\n" + options).c_str());
+        own.setFromString(
+            ("[P0]\nrenderSpeedBar = 0\nrenderAltBar = 0\nrenderVSpeedBar = 0\nrenderTrackBar = 0\n" + options)
+                .c_str());
         Map3DFactory factory(context.get());
         factory.loadSetupFromIni(&own, "P0");
         std::unique_ptr<IPanel> made = factory.Create();

@@ -49,7 +49,7 @@ void drawNextFix(BarPen& pen, const BarScene& scene) {
     text.height = 1.15 * scene.layout.word;
     text.most = place.getWidth() - scene.layout.word;
     text.place = ShapePoint(middleX(place), place.UpperLeftCorner.Y + 0.55 * line);
-    text.text = fix.name[0] ? fix.name.data() : L"Next";
+    text.text = fix.name.view().empty() ? ShortText(L"Next") : fix.name;
     text.argb = BarColor::bug;
     pen.text(BarCanvas::Scale, text);
     text.argb = isShown ? BarColor::inkOf(fix.flag) : BarColor::failed;

@@ -145,6 +145,8 @@ void drawWords(BarPen& pen, const BarScene& scene, const GlassDirections& direct
     if (isShown)
         put(BarText::Right, right, upper, directions.isMagnetic ? L"MAG" : L"TRUE",
             missing ? BarColor::caution : BarColor::white);
+    if (scene.readings.headingDegrees.flag == DialFlag::Simulated)
+        put(BarText::Right, right - 3.6 * layout.word, upper, L"SIM", BarColor::simulated);
     if (isShown && scene.readings.bearingDegrees)
         put(BarText::Right, right, lower,
             formatDirection(*scene.readings.bearingDegrees + directions.shift).append(L"\u00B0"), BarColor::bug);

@@ -61,7 +61,7 @@ public:
         readings.bearingDegrees = 4.0;
         readings.nextFix.nauticalMiles = 12.3;
         readings.nextFix.seconds = 754;
-        std::wstring(L"LESU").copy(readings.nextFix.name.data(), 4);
+        readings.nextFix.name = L"LESU";
     }
     void failAll(DialFlag flag) {
         for (auto* each : {&readings.airSpeedKnots, &readings.altitudeMetres, &readings.verticalSpeedMetres,
