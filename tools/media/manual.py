@@ -198,6 +198,10 @@ def scene_procedures():
             left, top, right, _ = glass.element_rect('procedures/dialogs/documents/%s*.ini' % screen, name)
             glass.click((left + right) / 2, top + (row + 0.5) * glass.button)
 
+        def keep_dialog(name):
+            """Without the instruments at its side."""
+            keep(cockpit.look()[:, :int(0.727 * SIZE[0])], name)
+
         def search(text):
             glass.press('gui/menu/documents/flightPlan*.ini', 'bcreate', glass.lower_area())
             for letter in text:
@@ -208,22 +212,22 @@ def scene_procedures():
         glass.open('FlightPlan')
         search('xstm')
         choose('chooseProcedure', 'lprocedures', 1)
-        keep(cockpit.look(), 'procedure')
+        keep_dialog('procedure')
         press('chooseProcedure', 'bnext')
         choose('approach', 'lprofiles', 2)
-        keep(cockpit.look(), 'approach')
+        keep_dialog('approach')
         press('approach', 'bgeneral')
-        keep(cockpit.look(), 'procedure-general')
+        keep_dialog('procedure-general')
         press('generalProcedure', 'bback')
         press('approach', 'bback')
         press('chooseProcedure', 'bcancel')
         search('ncp')
         press('chooseProcedure', 'bnext')
-        keep(cockpit.look(), 'intercept')
+        keep_dialog('intercept')
         press('intercept', 'back')
         choose('chooseProcedure', 'lprocedures', 1)
         press('chooseProcedure', 'bnext')
-        keep(cockpit.look(), 'holding')
+        keep_dialog('holding')
 
 
 def main():

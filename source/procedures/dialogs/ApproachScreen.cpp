@@ -112,7 +112,7 @@ void ApproachScreen::showPath() {
         made->calculateCourseList(approach.getFafPosition(), approach.getFafAltitude(), factory_.getRunway().course);
     scene.course = made->getCourseList();
     scene.fixes = {approach.getFafPosition()};
-    scene.guides = {{landing_.threshold, landing_.farThreshold, RunwayWidth, runwayColor}};
+    scene.guides = {{landing_.threshold, landing_.farThreshold, RunwayWidth, runwayColor, true}};
     scene.seen = {landing_.threshold, landing_.farThreshold};
     preview_.show(std::move(scene));
 }

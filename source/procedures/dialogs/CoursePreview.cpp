@@ -38,17 +38,22 @@ void CoursePreview::layOut(const irr::core::rect<int>& rect) {
     picture_ = pictureOf(scene_.course, *frame_, arrowSpacing);
 }
 
+void CoursePreview::drawGuides(bool overPath) {
+    for (const Guide& guide : scene_.guides) {
+        PreviewFrame::Point from = frame_->toPixels(guide.from), to = frame_->toPixels(guide.to);
+        if (guide.isOverPath == overPath && clipline(from.X, from.Y, to.X, to.Y, frame_->getPicture()))
+            painter_.drawLine(from, to, guide.width, guide.color);
+    }
+}
+
 void CoursePreview::paint(const irr::core::rect<int>& rect) {
     if (!frame_ || frame_->getPicture() != rect)
         layOut(rect);
     if (!frame_)
         return;
-    for (const Guide& guide : scene_.guides) {
-        PreviewFrame::Point from = frame_->toPixels(guide.from), to = frame_->toPixels(guide.to);
-        if (clipline(from.X, from.Y, to.X, to.Y, rect))
-            painter_.drawLine(from, to, guide.width, guide.color);
-    }
+    drawGuides(false);
     painter_.drawCourse(picture_);
+    drawGuides(true);
     for (const ChartPosition& fix : scene_.fixes)
         painter_.drawFix(frame_->toPixels(fix));
     painter_.drawAircraft(*frame_, PreviewPainter::SmallShare);

@@ -18,6 +18,7 @@ public:
         ChartPosition to;
         int width; ///< pixels
         irr::video::SColor color;
+        bool isOverPath = false;
     };
     struct Scene {
         CourseList course;
@@ -35,6 +36,7 @@ public:
 
 private:
     void layOut(const irr::core::rect<int>& rect);
+    void drawGuides(bool overPath);
 
     PreviewPainter painter_;
     Scene scene_;
