@@ -5,57 +5,26 @@
 #include "displays/map/elements/RendererParts.h"
 #include "gui/font/FlexibleFont.h"
 
-#include <cstring>
-
 namespace skyvane {
 
 namespace {
 
-/// Tells apart what sketches show: FNV-1a over it.
-class Key {
-public:
-    template <class Number>
-    void add(const Number& number) {
-        unsigned char bytes[sizeof(Number)];
-        std::memcpy(bytes, &number, sizeof bytes);
-        for (const unsigned char byte : bytes)
-            key_ = (key_ ^ byte) * 1099511628211ull;
-    }
-    void add(const std::string& text) {
-        for (const char letter : text)
-            add(letter);
-        add(text.size());
-    }
-    uint64_t get() const { return key_; }
-
-private:
-    uint64_t key_ = 14695981039346656037ull;
-};
-
-void addPosition(Key& key, const ChartPosition& position) {
-    key.add(position.longitude);
-    key.add(position.latitude);
-}
-
-uint64_t keyOf(const AirportElement& airport, const SketchFrame& frame, const void* font, const void* charts) {
-    Key key;
+SketchKey keyOf(const AirportElement& airport, const SketchFrame& frame, const void* font, const void* charts) {
+    SketchKey key(frame);
     key.add(font);
     key.add(charts);
-    key.add(frame.size.Width);
-    key.add(frame.size.Height);
-    key.add(frame.metric);
     key.add(airport.isHeliport);
-    addPosition(key, airport.position);
+    key.add(airport.position);
     for (const Runway& runway : airport.runways) {
         for (const uint32_t number : {runway.surface, runway.lengthFeet, runway.widthFeet, runway.directionDegrees})
             key.add(number);
         for (const RunwayEnd& end : runway.ends) {
             key.add(end.name);
             key.add(end.isThresholdKnown);
-            addPosition(key, end.threshold);
+            key.add(end.threshold);
         }
     }
-    return key.get();
+    return key;
 }
 
 /// The chart's own element goes when others are fetched for what lies around.
@@ -73,13 +42,11 @@ void AirportRenderer::renderSketch(const IChartElement* element, const irr::core
     const auto& airport = static_cast<const AirportElement&>(*element);
     const SketchFrame frame = parts_.painter.frameFor(rect);
     IChartElementSource* charts = parts_.context->getCharts();
-    const uint64_t key = keyOf(airport, frame, parts_.context->getFlexibleFont(), charts);
-    if (key != last_.key) {
+    const SketchPlan& plan = sketch_.get(keyOf(airport, frame, parts_.context->getFlexibleFont(), charts), [&] {
         const AirportElement copy = copyForSketch(airport);
-        last_.plan = planAirportSketch(copy, charts ? findAirportGround(*charts, copy) : AirportGround(), frame);
-        last_.key = key;
-    }
-    parts_.painter.draw(last_.plan, rect);
+        return planAirportSketch(copy, charts ? findAirportGround(*charts, copy) : AirportGround(), frame);
+    });
+    parts_.painter.draw(plan, rect);
 }
 
 } // namespace skyvane

@@ -2,7 +2,7 @@
 
 #include "displays/map/IChartElementRenderer.h"
 #include "displays/map/RGDContent.h"
-#include "displays/mapmath/elements/AirportSketchPlan.h"
+#include "displays/mapmath/elements/SketchCache.h"
 
 namespace skyvane {
 
@@ -37,11 +37,6 @@ public:
     void render3D(const IChartElement* element, Map3D* map, int index) override;
 
 private:
-    /// The last sketch that was drawn: displays draw the same one again and again.
-    struct LastSketch {
-        uint64_t key = 0;
-        SketchPlan plan;
-    };
     struct Placed;
 
     Placed place(const AirportElement& airport, const Map2D& map, bool intoRTT) const;
@@ -51,7 +46,7 @@ private:
 
     RendererParts& parts_;
     IAirportWeather* weather_ = nullptr;
-    LastSketch last_;
+    SketchCache sketch_;
     ShapeMesh mesh_;
 };
 

@@ -39,7 +39,18 @@ uint32_t darkened(uint32_t argb) {
 
 void AirspaceRenderer::renderSketch(const IChartElement* element, const irr::core::rect<int>& rect) {
     const auto& airspace = static_cast<const AirspaceElement&>(*element);
-    parts_.painter.draw(planAirspaceSketch(airspace, parts_.painter.frameFor(rect)), rect);
+    const SketchFrame frame = parts_.painter.frameFor(rect);
+    SketchKey key(frame);
+    key.add(static_cast<const void*>(parts_.context->getFlexibleFont()));
+    key.add(airspace.airspaceClass);
+    key.add(airspace.name);
+    key.add(airspace.topFeet);
+    key.add(airspace.bottomFeet);
+    key.add(airspace.isTopMsl);
+    key.add(airspace.isBottomMsl);
+    key.add(airspace.excludes);
+    key.add(airspace.vertices);
+    parts_.painter.draw(sketch_.get(key, [&] { return planAirspaceSketch(airspace, frame); }), rect);
 }
 
 void AirspaceRenderer::calcColor(const IChartElement* element, const Map2D& map, irr::video::SColor& color,

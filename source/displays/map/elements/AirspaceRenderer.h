@@ -2,6 +2,7 @@
 
 #include "chart/elements/AirspaceElement.h"
 #include "displays/map/IChartElementRenderer.h"
+#include "displays/mapmath/elements/SketchCache.h"
 #include "displays/shapes/Strokes.h"
 
 #include <array>
@@ -39,6 +40,7 @@ private:
     void addClassLabel(const AirspaceElement& airspace, Map2D& map, int index, const MapAffine& affine);
 
     RendererParts& parts_;
+    SketchCache sketch_;
     std::array<bool, AirspaceElement::StaticClassCount> irrelevant_{}; ///< By the class of static bytes.
     ShapeMesh mesh_;
     ShapePath path_, thinned_;

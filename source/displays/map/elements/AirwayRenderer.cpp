@@ -2,6 +2,7 @@
 
 #include "chart/elements/AirwayElement.h"
 #include "chart/elements/AltitudeCodes.h"
+#include "core/Context.h"
 #include "core/text/Numbers.h"
 #include "displays/map/Map2D.h"
 #include "displays/map/elements/MapDrawing.h"
@@ -40,7 +41,21 @@ void addDirection(ShapeMesh& mesh, const ShapePoint& from, const ShapePoint& to,
 
 void AirwayRenderer::renderSketch(const IChartElement* element, const irr::core::rect<int>& rect) {
     const auto& airway = static_cast<const AirwayElement&>(*element);
-    parts_.painter.draw(planAirwaySketch(airway, parts_.painter.frameFor(rect)), rect);
+    const SketchFrame frame = parts_.painter.frameFor(rect);
+    SketchKey key(frame);
+    key.add(static_cast<const void*>(parts_.context->getFlexibleFont()));
+    key.add(airway.name);
+    key.add(airway.start);
+    key.add(airway.end);
+    key.add(airway.isOneDirection);
+    key.add(airway.isLowAltitude);
+    key.add(airway.minimumEnroute.isAvailable);
+    key.add(airway.minimumEnroute.feet);
+    key.add(airway.minimumObstructionClearance.isAvailable);
+    key.add(airway.minimumObstructionClearance.feet);
+    key.add(airway.maximumAuthorised.isAvailable);
+    key.add(airway.maximumAuthorised.feet);
+    parts_.painter.draw(sketch_.get(key, [&] { return planAirwaySketch(airway, frame); }), rect);
 }
 
 void AirwayRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) {

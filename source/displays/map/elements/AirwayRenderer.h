@@ -1,6 +1,7 @@
 #pragma once
 
 #include "displays/map/IChartElementRenderer.h"
+#include "displays/mapmath/elements/SketchCache.h"
 #include "displays/shapes/ShapeMesh.h"
 
 namespace skyvane {
@@ -23,6 +24,7 @@ public:
 
 private:
     RendererParts& parts_;
+    SketchCache sketch_;
     ShapeMesh mesh_;
 };
 

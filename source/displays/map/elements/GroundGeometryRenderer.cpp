@@ -2,6 +2,7 @@
 
 #include "chart/elements/GroundGeometryElement.h"
 #include "chart/geodesy/Angles.h"
+#include "core/Context.h"
 #include "displays/map/Map2D.h"
 #include "displays/map/elements/MapDrawing.h"
 #include "displays/map/elements/RendererParts.h"
@@ -35,7 +36,14 @@ double extentOf(const ShapePath& path) {
 
 void GroundGeometryRenderer::renderSketch(const IChartElement* element, const irr::core::rect<int>& rect) {
     const auto& ground = static_cast<const GroundGeometryElement&>(*element);
-    parts_.painter.draw(planGroundSketch(ground, parts_.painter.frameFor(rect)), rect);
+    const SketchFrame frame = parts_.painter.frameFor(rect);
+    SketchKey key(frame);
+    key.add(static_cast<const void*>(parts_.context->getFlexibleFont()));
+    key.add(ground.name);
+    key.add(ground.feature);
+    key.add(ground.geoType);
+    key.add(ground.vertices);
+    parts_.painter.draw(sketch_.get(key, [&] { return planGroundSketch(ground, frame); }), rect);
 }
 
 void GroundGeometryRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT,

@@ -2,6 +2,7 @@
 
 #include "displays/map/IChartElementRenderer.h"
 #include "displays/map/elements/GroundFills.h"
+#include "displays/mapmath/elements/SketchCache.h"
 #include "displays/shapes/Strokes.h"
 
 namespace skyvane {
@@ -28,6 +29,7 @@ private:
     void addName(const GroundGeometryElement& ground, Map2D& map, int index, double pixels);
 
     RendererParts& parts_;
+    SketchCache sketch_;
     GroundFills fills_;
     ShapeMesh mesh_;
     ShapePath path_, thinned_;

@@ -91,18 +91,22 @@ void SketchPainter::drawTexts(const SketchPlan& plan, const rect<int>& place) {
     if (!font)
         return;
     while (texts_.size() < plan.texts.size())
-        texts_.push_back(std::make_unique<CachedText>());
+        texts_.push_back(std::make_unique<Text>());
     for (size_t i = 0; i < plan.texts.size(); ++i) {
         const SketchText& text = plan.texts[i];
-        texts_[i]->set(font, decodeUtf8(text.text).c_str(), irr::video::SColor(text.argb));
+        Text& kept = *texts_[i];
+        const bool isSame = kept.words == text.text;
+        kept.words = text.text;
+        const std::wstring letters = isSame ? std::wstring() : decodeUtf8(text.text);
+        kept.mesh.set(font, isSame ? kept.mesh.getText().c_str() : letters.c_str(), irr::video::SColor(text.argb));
         const auto lineHeight = sizeOf(*font, L"0").Height;
         const float scale = lineHeight > 0 ? static_cast<float>(text.height) / static_cast<float>(lineHeight) : 1.0f;
         // Small letters have no room for a rim.
         std::optional<RimmedLetters> rim;
         if (text.height >= leastRimmedHeight)
             rim.emplace(*font);
-        texts_[i]->drawRotated(place, {static_cast<float>(text.middle.X), static_cast<float>(text.middle.Y)},
-                               {scale, scale}, static_cast<float>(text.turnDegrees));
+        kept.mesh.drawRotated(place, {static_cast<float>(text.middle.X), static_cast<float>(text.middle.Y)},
+                              {scale, scale}, static_cast<float>(text.turnDegrees));
     }
 }
 

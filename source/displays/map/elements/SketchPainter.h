@@ -18,7 +18,7 @@ public:
 
     /// For a plan of that size, with the present font and units.
     SketchFrame frameFor(const irr::core::rect<int>& rect) const;
-    /// Into a rectangle of the current viewport, cut at its edges. Allocates nothing while plan and font stay.
+    /// Into a rectangle of the current viewport, cut at its edges. Allocates nothing while the same plan is drawn again.
     void draw(const SketchPlan& plan, const irr::core::rect<int>& rect);
     /// A picture in the sketch, between shapes and texts: its middle and edge in pixels of the sketch, tinted.
     void setPicture(irr::video::ITexture* texture, const ShapePoint& middle, double edge, irr::video::SColor color);
@@ -32,8 +32,13 @@ private:
         irr::video::SColor color;
     };
 
+    struct Text {
+        std::string words; ///< As they were set.
+        CachedText mesh;
+    };
+
     Context* context_;
-    std::vector<std::unique_ptr<CachedText>> texts_;
+    std::vector<std::unique_ptr<Text>> texts_;
     std::vector<Picture> pictures_;
 };
 

@@ -9,6 +9,7 @@
 #include "chart/elements/WaypointElement.h"
 #include "displays/map/IChartElementRenderer.h"
 #include "displays/map/elements/ElementScene.h"
+#include "support/AllocationCounter.h"
 
 namespace skyvane {
 namespace {
@@ -138,6 +139,26 @@ TEST_F(Sketches, ofAirportsAtAllSizes) {
     }
     frame([&] { sketch(parallel, rect<int>(0, 0, width, height)); });
     gl.savePicture("sketch800.png");
+}
+
+TEST_F(Sketches, thatStayAllocateNothing) {
+    const AirportElement field = airport({runway(Runway::Solid, 7000, 148, 20), runway(Runway::Grass, 2100, 100, 90)});
+    AirspaceElement airspace;
+    airspace.airspaceClass = "D";
+    airspace.vertices = {{1.2, 42.2}, {1.6, 42.2}, {1.6, 42.45}};
+    for (const IChartElement* element :
+         {static_cast<const IChartElement*>(&field), static_cast<const IChartElement*>(&airspace)}) {
+        const auto draw = [&] { sketch(*element, rect<int>(0, 0, 400, 300)); };
+        for (int i = 0; i < 3; ++i)
+            frame(draw);
+        size_t allocations = 0;
+        frame([&] {
+            const AllocationCounter counter;
+            draw();
+            allocations = counter.count();
+        });
+        EXPECT_EQ(allocations, 0u);
+    }
 }
 
 } // namespace
