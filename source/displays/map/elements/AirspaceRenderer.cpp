@@ -76,7 +76,10 @@ bool AirspaceRenderer::isIrrelevant(const std::string& airspaceClass) const {
 
 void AirspaceRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) {
     const auto& airspace = static_cast<const AirspaceElement&>(*element);
-    if (!selected && !map->getSwitches().irrelevant && isIrrelevant(airspace.airspaceClass))
+    // The static bytes tell neither all classes nor floors above 29,500 feet.
+    const bool isTooHigh = airspace.bottomFeet >= map->getAirspacesBelowFeet();
+    const bool isUnwanted = !map->getSwitches().irrelevant && isIrrelevant(airspace.airspaceClass);
+    if (!selected && (isTooHigh || isUnwanted))
         return;
     const MapAffine affine = affineOf(*map, intoRTT);
     const ShapeRect view = viewOf(*map, intoRTT);

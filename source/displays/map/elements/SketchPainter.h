@@ -18,7 +18,8 @@ public:
 
     /// For a plan of that size, with the present font and units.
     SketchFrame frameFor(const irr::core::rect<int>& rect) const;
-    /// Into a rectangle of the current viewport, cut at its edges. Allocates nothing while the same plan is drawn again.
+    /// Into a rectangle of the current viewport, cut at its edges. Allocates nothing while the same plan is drawn
+    /// again.
     void draw(const SketchPlan& plan, const irr::core::rect<int>& rect);
     /// A picture in the sketch, between shapes and texts: its middle and edge in pixels of the sketch, tinted.
     void setPicture(irr::video::ITexture* texture, const ShapePoint& middle, double edge, irr::video::SColor color);

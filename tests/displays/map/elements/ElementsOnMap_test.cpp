@@ -246,6 +246,28 @@ TEST_F(ElementsOnMap, obstaclesFollowTheAircraftAndTheTrack) {
     EXPECT_GT(around(0.2, 0.0, 0xff00ff00), 30);
 }
 
+TEST_F(ElementsOnMap, airspacesThatAreTooHighOrUnwantedAreLeftOut) {
+    double west = -0.3;
+    for (const char* name : {"RA", "DA", "RA"}) { // a class that the static bytes don't tell
+        auto airspace = std::make_unique<AirspaceElement>();
+        airspace->airspaceClass = name;
+        airspace->bottomFeet = west > 0.0 ? 45000 : 1000;
+        airspace->vertices = {{west, -0.1}, {west, 0.1}, {west + 0.15, 0.1}, {west + 0.15, -0.1}};
+        add(std::move(airspace));
+        west += 0.2;
+    }
+    ini.set("", "blacklist", "DA");
+    panels().loadPanelSettingsFromIni(&ini, nullptr, false, false);
+    openMap("airspacesBelow = 40000\ndescriptions = 0\n");
+    EXPECT_GT(around(-0.3, 0.05, 0xffff3c3c), 60);
+    EXPECT_EQ(around(-0.1, 0.05, 0xffffffff), 0);
+    EXPECT_EQ(around(0.1, 0.05, 0xffff3c3c), 0);
+    map.reset();
+    openMap("airspacesBelow = 50000\ndescriptions = 0\nirrelevant = 1\n");
+    EXPECT_GT(around(-0.1, 0.05, 0xffffffff), 40);
+    EXPECT_GT(around(0.1, 0.05, 0xffff3c3c), 60);
+}
+
 TEST_F(ElementsOnMap, wildElementsAtTheEdgesOfTheEarth) {
     const double inf = std::numeric_limits<double>::infinity();
     for (const double latitude : {0.0, 89.7}) {
