@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <list>
 
 namespace skyvane::demo {
 
@@ -27,9 +28,19 @@ std::vector<int16_t> sampleTile(const Landscape& landscape) {
 bool writeTerrain(const Landscape& landscape, const std::string& folder) {
     constexpr double west = RegionPlane::West + 360.0, north = RegionPlane::South + RegionPlane::Degrees;
     TerrainStore tree(folder, 1);
-    const int leaf = findFittingNode(tree.getRoot(), {west, north}, {west + 1.0, north - 1.0})->getId();
-    return saveTile(getTilePath(folder, leaf), sampleTile(landscape).data()) &&
-           writeTIFile(folder + "Skyvane_Islands.ti", "Skyvane Islands (fictional)", {leaf}, "N/A") &&
+    const std::vector<int16_t> sea(TileSamples, int16_t{0});
+    std::list<int> ids;
+    for (const double row : {1.0, 0.0, -1.0})
+        for (const double column : {-1.0, 0.0, 1.0}) {
+            const ChartPosition corner(west + column, north + row);
+            const int leaf =
+                findFittingNode(tree.getRoot(), corner, {corner.longitude + 1.0, corner.latitude - 1.0})->getId();
+            const bool isLand = row == 0.0 && column == 0.0;
+            if (!saveTile(getTilePath(folder, leaf), (isLand ? sampleTile(landscape) : sea).data()))
+                return false;
+            ids.push_back(leaf);
+        }
+    return writeTIFile(folder + "Skyvane_Islands.ti", "Skyvane Islands (fictional)", ids, "N/A") &&
            setFolderDirty(folder, true);
 }
 
