@@ -17,7 +17,7 @@ namespace {
 
 constexpr int tallFeet = 500;
 const irr::video::SColor plainColor(0xffffb000), labelColor(0xffffffff), labelBackground(0xff30261a);
-constexpr double rimShare = 1.16;
+constexpr double rimShare = 1.16, farShare = 0.68;
 constexpr double cellShare = 0.55; ///< Of a symbol: closer ones are one.
 constexpr double largestLabelArea = 0.3;
 constexpr float labelScale = 0.6f;
@@ -29,6 +29,11 @@ const char* symbolOf(bool isTall, bool isGroup, bool isLit) {
         {{"obstacle", "obstacle_lit"}, {"obstacle_group", "obstacle_group_lit"}},
         {{"obstacle_tall", "obstacle_tall_lit"}, {"obstacle_tall_group", "obstacle_tall_group_lit"}}};
     return names[isTall][isGroup][isLit];
+}
+
+/// Of a symbol in pixels: smaller where a view holds many.
+double edgeOn(const Map2D& map) {
+    return map.getElementSizePx() * (map.getViewArea() > largestSketchArea ? farShare : 1.0);
 }
 
 } // namespace
@@ -51,7 +56,7 @@ irr::video::SColor ObstructionRenderer::calcColor(double metresBelow) {
 
 void ObstructionRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) {
     const auto& obstruction = static_cast<const ObstructionElement&>(*element);
-    const double edge = map->getElementSizePx();
+    const double edge = edgeOn(*map);
     if (!map->isInside(obstruction.position, edge, edge, intoRTT))
         return;
     const MapAffine affine = affineOf(*map, intoRTT);
@@ -80,7 +85,7 @@ void ObstructionRenderer::OnPostPriority2D(Map2D* map, int priority) {
             *map, {members.getPosition().X, members.getPosition().Y}, members.getHighestMslFeet(),
             {members.getHighestAglFeet() >= tallFeet, members.getCount() > 1, group.isLit, found->second.isIntoRTT});
         if (map->getViewArea() <= largestLabelArea)
-            addLabel(*map, group.index, group.position, 0.7 * map->getElementSizePx(),
+            addLabel(*map, group.index, group.position, 0.7 * edgeOn(*map),
                      {toText(displayedAltitude(members.getHighestMslFeet(), map->isMetric())), labelColor,
                       labelBackground, labelScale, 0.0, false});
     }
@@ -90,7 +95,7 @@ void ObstructionRenderer::OnPostPriority2D(Map2D* map, int priority) {
 /// Dark around it, and light around that: red shows on red ground, too.
 void ObstructionRenderer::drawObstruction(Map2D& map, const ShapePoint& middle, int topFeet, const Shape& shape) {
     const ElementSymbol& symbol = parts_.textures.get(symbolOf(shape.isTall, shape.isGroup, shape.isLit));
-    const double edge = map.getElementSizePx();
+    const double edge = edgeOn(map);
     drawSymbol(map, {symbol.halo, nullptr}, middle, rimShare * edge, {lightHalo, lightHalo}, shape.intoRTT);
     drawSymbol(map, symbol, middle, edge, {calcColor(map.getAltitude() - topFeet * MetresPerFoot), darkHalo},
                shape.intoRTT);
@@ -98,7 +103,7 @@ void ObstructionRenderer::drawObstruction(Map2D& map, const ShapePoint& middle, 
 
 bool ObstructionRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,
                                         const irr::core::vector2d<int>& position) {
-    return isMouseOverSymbol(*map, element->getPosition(), map->getElementSizePx(), position);
+    return isMouseOverSymbol(*map, element->getPosition(), edgeOn(*map), position);
 }
 
 bool ObstructionRenderer::will2DMapChange(Map2D* map, const IChartElement* element, double fromAltitudeMetres,
