@@ -152,7 +152,7 @@ TEST(IdSet, IsASet) {
         set.clear();
         EXPECT_FALSE(set.contains(5));
         for (int i = 0; i < 5000; ++i) {
-            const int id = i % 7 == 0 ? number(random) << 18 : number(random);
+            const int id = i % 7 == 0 ? number(random) * 262144 : number(random);
             ASSERT_EQ(twin.insert(id).second, set.insert(id));
             ASSERT_TRUE(set.contains(id));
         }
