@@ -1,22 +1,20 @@
 """Flight plans in the real program: one is loaded in the window and flown over the fictional islands, and what the displays
 tell is compared with what a pilot computes by hand; the position simulator; plans that are damaged."""
-import fcntl
 import math
 import os
-import shutil
 import signal
-import subprocess
 import time
 
-from cockpit import ROOT, Cockpit, end
+from cockpit import Cockpit, end
 from figures import FigureReader
 from glass import GREEN, Glass
+from islands import install
 from navigator import along_and_right, apart, bearing, distance, offset
 from run_tests import thorough
 from test_dials import DEMO, SIZE, dismiss_box, hold
 
 PLAN = 'gui/menu/documents/flightPlan*.ini'
-SIMULATOR = 'gui/menu/documents/simulator*.ini'
+WHERE = 'gui/menu/documents/simulator*.ini'
 SAVED = 'gui/windows/documents/loadSave*.ini'
 MILE, FOOT, KNOT = 1852.0, 0.3048, 0.514444444
 
@@ -74,22 +72,12 @@ def write_plans(home):
                     procedure(1, 'Teleport', SANDA, 3) + procedure(2, 'Direct', (91.0, 0.0), 3))
 
 
-def islands(build):
-    """The folder of the islands' charts, compiled once."""
-    folder = os.path.join(os.path.abspath(build), 'test-islands')
-    with open(folder + '.lock', 'w') as lock:
-        fcntl.flock(lock, fcntl.LOCK_EX)
-        if not os.path.isdir(folder):
-            subprocess.run([os.path.join(ROOT, 'tools/demo/build-region.sh'), build, folder + '.new'], check=True,
-                           stdout=subprocess.DEVNULL)
-            os.rename(folder + '.new', folder)
-    return folder
-
-
 def prepare(build):
+    """A home with the islands and the plans."""
+    charts = install(build)
+
     def fill(home):
-        shutil.copytree(islands(build), os.path.join(home, '.Skyvane', 'ChartData'),
-                        ignore=shutil.ignore_patterns('sources', 'report.txt'))
+        charts(home)
         write_plans(home)
     return fill
 
@@ -367,16 +355,16 @@ def test_the_simulator_flies_what_is_left_of_a_damaged_plan(build):
         time.sleep(1)
         for letter in 'QQQ':  # in the place of where the plan leads to
             cockpit.key(letter)
-        plan.press(SIMULATOR, 'bstart', plan.high)
+        plan.press(WHERE, 'bstart', plan.high)
         cockpit.key('Return')  # no element is selected
         time.sleep(0.5)
         assert not is_blue(cockpit.look())
-        plan.write(plan.element(SIMULATOR, 'edest', plan.high), 'EMBRA', (0.99 * plan.width, 0.3 * plan.height))
+        plan.write(plan.element(WHERE, 'edest', plan.high), 'EMBRA', (0.99 * plan.width, 0.3 * plan.height))
         time.sleep(1)
         cockpit.save(cockpit.look(), 'simulator-search')
-        plan.press(SIMULATOR, 'bstart', plan.high)
+        plan.press(WHERE, 'bstart', plan.high)
         cockpit.wait(lambda: is_blue(cockpit.look()), 5, 'the word in the bar')
-        plan.press(SIMULATOR, 'bclose', plan.high)
+        plan.press(WHERE, 'bclose', plan.high)
         cockpit.wait(lambda: message_lines(cockpit.look()) == 1, 4, 'the warning that nothing is real')
         cockpit.save(cockpit.look(), 'simulator-started')
         time.sleep(0.5)
@@ -389,6 +377,6 @@ def test_the_simulator_flies_what_is_left_of_a_damaged_plan(build):
         plan.press(PLAN, 'bclose', plan.low)
         plan.open('Position Simulator')
         time.sleep(1)
-        plan.press(SIMULATOR, 'bstart', plan.high)
+        plan.press(WHERE, 'bstart', plan.high)
         cockpit.wait(lambda: not is_blue(cockpit.look()), 5, 'the end of the simulation')
         assert cockpit.close() == 0

@@ -19,6 +19,7 @@ from cockpit import Cockpit, end  # noqa: E402
 from dials import panel_area  # noqa: E402
 from glass import Glass  # noqa: E402
 from islands import install  # noqa: E402
+from test_flightplan import PLAN, START, WHERE, Plan, prepare  # noqa: E402
 from test_links import SIMULATOR  # noqa: E402
 from test_profiles import Screen, asking, wait_for_screen  # noqa: E402
 from test_touch import Fingers  # noqa: E402
@@ -109,8 +110,8 @@ def scene_dials():
 
 
 # Their rows in the menu.
-SCREENS = {'flightplan': 'FlightPlan', 'sensors': 'Change Sensors', 'panels': 'Panel Setup',
-           'aircraft': 'Aircraft Setup', 'general': 'General Setup', 'simulator': 'Position Simulator',
+SCREENS = {'sensors': 'Change Sensors', 'panels': 'Panel Setup',
+           'aircraft': 'Aircraft Setup', 'general': 'General Setup',
            'presets': 'Apply Optimized Settings', 'altimeter-settings': 'QNH/Altimeter Settings',
            'forwarding': 'Forwarding'}
 
@@ -135,6 +136,24 @@ def scene_screens():
                 keep(cockpit.look(), 'sensors-advanced')
         finally:
             cockpit.__exit__()
+
+
+def scene_plan():
+    """A plan over the fictional islands, and the simulator beside it."""
+    with Cockpit(sys.argv[1], DEMO, SIZE, prepare=prepare(sys.argv[1])) as cockpit:
+        plan = Plan(cockpit)
+        cockpit.feed('--hold', '--state', STATE + ',latitude=%f,longitude=%f' % START)
+        time.sleep(3)
+        plan.load(0, 5)
+        plan.write(plan.element(PLAN, 'espeed', plan.low), '100', (0.5 * plan.width, 0.2 * plan.height))
+        time.sleep(1)
+        keep(cockpit.look(), 'flightplan')
+        plan.press(PLAN, 'bclose', plan.low)
+        plan.open('Position Simulator')
+        plan.write(plan.element(WHERE, 'edest', plan.high), 'EMBRA', (0.99 * plan.width, 0.3 * plan.height))
+        plan.press(WHERE, 'bstart', plan.high)
+        time.sleep(1)
+        keep(cockpit.look(), 'simulator')
 
 
 def scene_keys():
