@@ -160,7 +160,7 @@ void ProcedureManager::Update(bool force) {
     const FlightReadings readings = readFlight(*context_->getSensorManager());
     if (!plan_.isEmpty()) {
         constexpr double unknown = std::numeric_limits<double>::quiet_NaN();
-        plan_.updatePosRelated(readings.isPlaced() ? readings.state() : FlightState{{}, unknown, 0.0, 0.0});
+        plan_.updatePosRelated(readings.isPlaced() ? readings.state() : AircraftMotion{{}, unknown, 0.0, 0.0});
         if (readings.altitude)
             warnOfDestination(*readings.altitude);
     }

@@ -21,7 +21,7 @@ constexpr double FinishedMetres = 200.0;
 constexpr double LeastKnots = 0.1;
 constexpr double LongestSeconds = 2.0e9;
 
-bool isFinite(const FlightState& flight) {
+bool isFinite(const AircraftMotion& flight) {
     return std::isfinite(flight.position.longitude) && std::isfinite(flight.position.latitude) &&
            std::isfinite(flight.altitude) && std::isfinite(flight.groundSpeed) && std::isfinite(flight.heading);
 }
@@ -33,7 +33,7 @@ double nearestShare(const Place& a, const Place& b, const Place& point) {
     return square > 0.0 ? std::clamp((point - a).dotProduct(along) / square, 0.0, 1.0) : 0.0;
 }
 
-void calculateSteeringErrors(const FlightState& flight, Guidance& guidance) {
+void calculateSteeringErrors(const AircraftMotion& flight, Guidance& guidance) {
     const Place aircraft = ChartPosition2Vector3df64(guidance.closestPosition, flight.position, 0.0);
     const double course = guidance.closestCourse / DegreesPerRadian;
     const Place direction(std::sin(course), 0.0, std::cos(course));
@@ -65,7 +65,7 @@ void CourseGuidance::setList(CourseList list) {
 
 /// A segment takes the shorter way round the earth, also where its ends lie on both sides of the aircraft's far
 /// meridian.
-CourseGuidance::Closest CourseGuidance::findClosest(const FlightState& flight) const {
+CourseGuidance::Closest CourseGuidance::findClosest(const AircraftMotion& flight) const {
     const Place aircraft(0.0, flight.altitude, 0.0);
     const double turn = 360.0 * MetresPerDegree * longitudeScale(flight.position.latitude);
     const auto place = [&flight](const CourseElement& element) {
@@ -102,7 +102,7 @@ size_t CourseGuidance::findNext(size_t segment, const ChartPosition& closestPosi
     return last;
 }
 
-void CourseGuidance::follow(const FlightState& flight, Guidance& guidance) const {
+void CourseGuidance::follow(const AircraftMotion& flight, Guidance& guidance) const {
     if (elements_.empty() || !isFinite(flight)) {
         guidance = Guidance();
         return;
@@ -128,7 +128,7 @@ void CourseGuidance::follow(const FlightState& flight, Guidance& guidance) const
 }
 
 /// At a standstill nothing can be told of the time, and what was reached stays reached.
-void CourseGuidance::calculateTime(const FlightState& flight, Guidance& guidance) const {
+void CourseGuidance::calculateTime(const AircraftMotion& flight, Guidance& guidance) const {
     if (flight.groundSpeed < LeastKnots) {
         guidance.ete = -1;
         return;

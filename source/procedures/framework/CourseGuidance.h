@@ -8,7 +8,7 @@
 namespace skyvane {
 
 /// Where an aircraft is, and how it moves.
-struct FlightState {
+struct AircraftMotion {
     ChartPosition position;
     double altitude = 0.0;    ///< metres
     double groundSpeed = 0.0; ///< knots
@@ -47,14 +47,14 @@ public:
 
     /// Renews the figures; those of a standstill that can't be told keep their value. Values that aren't finite count
     /// as no path.
-    void follow(const FlightState& flight, Guidance& guidance) const;
+    void follow(const AircraftMotion& flight, Guidance& guidance) const;
 
 private:
     struct Closest;
 
-    Closest findClosest(const FlightState& flight) const;
+    Closest findClosest(const AircraftMotion& flight) const;
     size_t findNext(size_t segment, const ChartPosition& closestPosition) const;
-    void calculateTime(const FlightState& flight, Guidance& guidance) const;
+    void calculateTime(const AircraftMotion& flight, Guidance& guidance) const;
 
     CourseList list_;
     std::vector<const CourseElement*> elements_; ///< Of the list, for whoever steps back and forth.

@@ -23,7 +23,7 @@ const Record* trusted(SensorManager& sensors, ISensorData::Type type) {
 
 } // namespace
 
-FlightState FlightReadings::state() const {
+AircraftMotion FlightReadings::state() const {
     return {*position, *altitude, groundSpeed.value_or(0.0), heading.value_or(0.0)};
 }
 

@@ -18,7 +18,7 @@ struct FlightReadings {
 
     bool isPlaced() const { return position && altitude; }
     /// Standing still and heading north where nobody knows better. Only when placed.
-    FlightState state() const;
+    AircraftMotion state() const;
 };
 
 /// Each value from its own record, or else from that of the satellite receiver.

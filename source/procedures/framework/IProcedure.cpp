@@ -50,12 +50,12 @@ void writeValues(ProcedureKeys& keys, const ProcedureValues& values) {
 } // namespace
 
 void IProcedure::updatePosRelated(ChartPosition position, double altitude, double groundSpeed, double heading) {
-    const FlightState flight{position, altitude, groundSpeed, heading};
+    const AircraftMotion flight{position, altitude, groundSpeed, heading};
     course_.follow(flight, guidance_);
     updateWarnings(flight);
 }
 
-void IProcedure::updateWarnings(const FlightState& flight) {
+void IProcedure::updateWarnings(const AircraftMotion& flight) {
     const bool isFlown = guidance_.length >= 0.0;
     const double speedError = std::fabs(std::fabs(values_.targetGroundSpeed) - std::fabs(flight.groundSpeed));
     groundSpeedWarning_ = isFlown && values_.checkGroundSpeed && speedError > values_.speedTolerance;

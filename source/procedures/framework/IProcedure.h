@@ -92,7 +92,7 @@ protected:
     ProcedureLocation location_;
 
 private:
-    void updateWarnings(const FlightState& flight);
+    void updateWarnings(const AircraftMotion& flight);
     void findElementAgain(IChartElementSource* charts);
 
     IProcedureFactory* factory_;

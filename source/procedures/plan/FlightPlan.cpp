@@ -115,7 +115,7 @@ void FlightPlan::calculateCourseLists(ChartPosition position, double altitude, d
     }
 }
 
-void FlightPlan::updatePosRelated(const FlightState& flight) {
+void FlightPlan::updatePosRelated(const AircraftMotion& flight) {
     getCurrent()->updatePosRelated(flight.position, flight.altitude, flight.groundSpeed, flight.heading);
 }
 

@@ -62,7 +62,7 @@ public:
     /// Makes the paths from the current procedure on: each begins where the one before it ends, the first one here.
     /// Metres and degrees true; nothing happens for values that aren't finite.
     void calculateCourseLists(ChartPosition position, double altitude, double course);
-    void updatePosRelated(const FlightState& flight);
+    void updatePosRelated(const AircraftMotion& flight);
     /// Goes on when the current procedure has reached its end and there is another one; true when it has.
     bool advanceWhenFinished();
     /// See IProcedure::OnChartChanged.
