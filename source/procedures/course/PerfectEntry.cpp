@@ -109,8 +109,8 @@ void appendArc(std::vector<Place>& path, const Circle& circle, const Place& from
     path.push_back(to);
 }
 
-/// Whether a leg straight to the target is off both courses by no more than a chord is off its arc. On the spot only the
-/// courses count.
+/// Whether a leg straight to the target is off both courses by no more than a chord is off its arc. On the spot only
+/// the courses count.
 bool isStraightAhead(const Entry& entry) {
     constexpr double offChord = VertexStepDegrees / 2.0, onTheSpot = 1.0;
     const bool isThere = std::hypot(entry.target.X, entry.target.Z) < onTheSpot;
