@@ -3,6 +3,7 @@
 #include "core/Context.h"
 #include "displays/drawing/Drawer2D.h"
 #include "gui/font/FlexibleFont.h"
+#include "gui/font/RimmedLetters.h"
 
 #include <cstdlib>
 #include <cwchar>
@@ -47,7 +48,7 @@ void SymbolView::drawNumbers(const Scene& scene, const GlassSymbols& symbols, co
     FlexibleFont* font = context_->getFlexibleFont();
     if (!font)
         return;
-    const float borderBefore = font->getDefaultBorderSize();
+    const RimmedLetters rimmed(*font); // which show on snow
     for (const PitchRung& rung : ladder) {
         const int pitch = std::abs(rung.pitchDegrees);
         if (!rung.isLong || pitch == 0)
@@ -65,7 +66,6 @@ void SymbolView::drawNumbers(const Scene& scene, const GlassSymbols& symbols, co
                                static_cast<float>(rotation));
         }
     }
-    font->setDefaultBorderSize(borderBefore);
 }
 
 } // namespace skyvane

@@ -11,6 +11,7 @@
 #include "displays/shapes/Strokes.h"
 #include "displays/vision/SceneStage.h"
 #include "gui/font/FlexibleFont.h"
+#include "gui/font/RimmedLetters.h"
 #include "sensors/SensorManager.h"
 #include "sensors/records/Traffic_Data.h"
 
@@ -99,7 +100,10 @@ void TrafficView::drawSymbols(const SceneStage& stage, const irr::core::rect<int
     drawer_->setViewPort(rect);
     drawer_->draw(shapes_);
     drawer_->resetViewPort();
-    for (size_t i = 0; font && i < targets_.size(); ++i) {
+    if (!font)
+        return;
+    const RimmedLetters rimmed(*font);
+    for (size_t i = 0; i < targets_.size(); ++i) {
         if (!seen[i])
             continue;
         wchar_t digits[16] = L"--";

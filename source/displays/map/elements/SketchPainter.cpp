@@ -5,6 +5,7 @@
 #include "displays/PanelManager.h"
 #include "displays/drawing/Drawer2D.h"
 #include "gui/font/FlexibleFont.h"
+#include "gui/font/RimmedLetters.h"
 
 #include <cmath>
 #include <optional>
@@ -15,34 +16,8 @@ namespace {
 
 using irr::core::rect;
 
-/// Letters with a dark rim: what the letters lose to the rim, their fatness gives back.
+/// Letters below have no rim.
 constexpr double leastRimmedHeight = 17.0;
-constexpr float rimWidth = 0.16f, rimShift = 0.13f;
-const irr::video::SColor rimColor(0xd0000000);
-
-/// For as long as it lives the font draws with a rim.
-class RimmedLetters {
-public:
-    explicit RimmedLetters(FlexibleFont& font)
-        : font_(font), fatness_(font.getDefaultFatness()), border_(font.getDefaultBorderSize()),
-          color_(font.getDefaultBorderColor()) {
-        font_.setDefaultFatness(fatness_ - rimShift);
-        font_.setDefaultBorderSize(rimWidth);
-        font_.setDefaultBorderColor(rimColor);
-    }
-    ~RimmedLetters() {
-        font_.setDefaultFatness(fatness_);
-        font_.setDefaultBorderSize(border_);
-        font_.setDefaultBorderColor(color_);
-    }
-    RimmedLetters(const RimmedLetters&) = delete;
-    RimmedLetters& operator=(const RimmedLetters&) = delete;
-
-private:
-    FlexibleFont& font_;
-    float fatness_, border_;
-    irr::video::SColor color_;
-};
 
 irr::core::dimension2d<irr::u32> sizeOf(const FlexibleFont& font, const std::wstring& text) {
     return font.getDimensionWithTabs(text.c_str(), font.getDefaultTabSize(), {1.0f, 1.0f});
