@@ -30,6 +30,7 @@ Map3D::Map3D(Context* context, const VisionSettings& settings, std::string secti
 void Map3D::OnPageChange() {
     finger_.cancel();
     pinch_ = PinchTracker();
+    buttons_.hide(); // which nobody would do on another page
 }
 
 void Map3D::OnHideGUI() {

@@ -280,6 +280,11 @@ TEST_F(Map3DTest, followsFingersAndComesBack) {
     EXPECT_EQ(find(L"Center"), nullptr);
     offer(irr::EMIE_LMOUSE_PRESSED_DOWN, 100, 100);
     offer(irr::EMIE_LMOUSE_LEFT_UP, 102, 100);
+    EXPECT_NE(find(L"Center"), nullptr);
+    panel->OnPageChange();
+    EXPECT_EQ(find(L"Center"), nullptr) << "on another page nothing is to be centred";
+    offer(irr::EMIE_LMOUSE_PRESSED_DOWN, 100, 100);
+    offer(irr::EMIE_LMOUSE_LEFT_UP, 102, 100);
     irr::gui::IGUIElement* center = find(L"Center");
     ASSERT_NE(center, nullptr);
     ASSERT_NE(find(L"Options"), nullptr);
