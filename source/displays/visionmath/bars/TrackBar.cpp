@@ -122,11 +122,10 @@ private:
 };
 
 /// Two lines on each side of the value: what the band shows, and the bearing of the plan.
-void drawWords(BarPen& pen, const BarScene& scene, const GlassDirections& directions, bool isShown) {
+void drawWords(BarPen& pen, const BarScene& scene, const GlassDirections& directions) {
     const PfdLayout& layout = scene.layout;
     const ShapeRect& head = layout.trackHead;
     const double margin = 0.4 * layout.word, room = middleX(head) - 1.9 * layout.tick - head.UpperLeftCorner.X;
-    pen.shade(BarCanvas::Ground, head, BarColor::label, BarColor::label);
     BarText text;
     text.height = 0.95 * layout.word;
     text.most = room - margin;
@@ -142,12 +141,11 @@ void drawWords(BarPen& pen, const BarScene& scene, const GlassDirections& direct
     put(BarText::Left, left, upper, L"GroundTrack/", BarColor::white);
     put(BarText::Left, left, lower, L"Bearing", scene.readings.bearingDegrees ? BarColor::bug : BarColor::grey);
     const bool missing = scene.settings.renderTrueMagHeading && !directions.isMagnetic;
-    if (isShown)
-        put(BarText::Right, right, upper, directions.isMagnetic ? L"MAG" : L"TRUE",
-            missing ? BarColor::caution : BarColor::white);
+    put(BarText::Right, right, upper, directions.isMagnetic ? L"MAG" : L"TRUE",
+        missing ? BarColor::caution : BarColor::white);
     if (scene.readings.headingDegrees.flag == DialFlag::Simulated)
         put(BarText::Right, right - 3.6 * layout.word, upper, L"SIM", BarColor::simulated);
-    if (isShown && scene.readings.bearingDegrees)
+    if (scene.readings.bearingDegrees)
         put(BarText::Right, right, lower,
             formatDirection(*scene.readings.bearingDegrees + directions.shift).append(L"\u00B0"), BarColor::bug);
 }
@@ -159,13 +157,14 @@ void drawTrackBar(BarPen& pen, const BarScene& scene) {
     const DialFlag flag = readings.headingDegrees.flag;
     const GlassDirections directions = chooseDirections(scene);
     pen.band(scene.layout.track, scene.settings.barColor);
-    drawWords(pen, scene, directions, isValueShown(flag));
+    pen.shade(BarCanvas::Ground, scene.layout.trackHead, BarColor::label, BarColor::label);
     if (!isValueShown(flag)) {
         ShapeRect both = scene.layout.trackHead;
         both.addInternalPoint(scene.layout.track.LowerRightCorner);
         pen.cross(both, L"HDG");
         return;
     }
+    drawWords(pen, scene, directions);
     TrackDrawing drawing(pen, scene, directions);
     drawing.drawScale();
     if (flag == DialFlag::Doubtful)
