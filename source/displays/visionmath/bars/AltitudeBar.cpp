@@ -74,6 +74,7 @@ void drawAltitudeBar(BarPen& pen, const BarScene& scene) {
     TapeBar bar(pen, layout, layout.altitude, TapeBar::MarksLeft, flag, 0.02);
     if (!bar.begin(layout.altitudeTitle, metric ? L"MSL (100m)" : L"MSL (100ft)", scene.settings.barColor, L"ALT"))
         return;
+    // A metric tape shows as many metres: in 400 feet of them there would be a single number.
     const Tape tape = bar.makeTape(value, scene.settings.altitudeRangeFeet);
     drawGround(bar, tape, scene, unit);
     const double step = chooseStep(100.0, tape.getPixelsPerUnit(), 1.9 * layout.tick);
