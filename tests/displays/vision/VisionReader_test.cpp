@@ -2,6 +2,8 @@
 
 #include "VisionRig.h"
 #include "displays/visionmath/PfdReadings.h"
+#include "procedures/ProcedureManager.h"
+#include "procedures/direct/DirectProcedure.h"
 #include "sensors/records/AirSpeed_Data.h"
 #include "sensors/records/AngleOfAttack_Data.h"
 #include "sensors/records/ExtendedHeading_Data.h"
@@ -45,6 +47,26 @@ TEST_F(VisionReaderTest, tellsWhatIsMissingFromWhatFailed) {
     EXPECT_EQ(bars.angleOfAttack.flag, DialFlag::Doubtful);
     ASSERT_TRUE(bars.magneticDegrees);
     EXPECT_NEAR(*bars.magneticDegrees, 7.0, 1e-6);
+}
+
+TEST_F(VisionReaderTest, thePlanIsBelievedAsFarAsThePosition) {
+    makePanel();
+    ProcedureManager& plan = *context->getProcedureManager();
+    IProcedureFactory* factory = plan.findProcedureFactorybyType(IProcedure::Direct);
+    plan.addProcedure(std::make_unique<DirectProcedure>(ChartPosition{1.5, 42.7}, factory));
+    plan.calculateCourseList();
+    plan.Update(false);
+    PfdReadings bars = read();
+    ASSERT_TRUE(bars.bearingDegrees);
+    EXPECT_NEAR(std::remainder(*bars.bearingDegrees, 360.0), 0.0, 2.0);
+    EXPECT_NEAR(bars.nextFix.nauticalMiles, 12.0, 0.3);
+    EXPECT_NEAR(bars.nextFix.seconds, 12.0 / 100.0 * 3600.0, 15.0) << "at 100 knots";
+    EXPECT_TRUE(bars.nextFix.name.view().empty()) << "a place without a chart element";
+    EXPECT_EQ(bars.nextFix.flag, DialFlag::Good);
+    sensor->levels = {{ISensorData::Position, ISensor::WRONG}};
+    bars = read();
+    EXPECT_FALSE(bars.bearingDegrees);
+    EXPECT_EQ(bars.nextFix.flag, DialFlag::Failed);
 }
 
 TEST_F(VisionReaderTest, noNumberThatIsNoneReachesTheBars) {
