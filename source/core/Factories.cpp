@@ -2,6 +2,7 @@
 
 #include "core/Context.h"
 #include "displays/PanelManager.h"
+#include "displays/information/DetailsPanelFactory.h"
 #include "displays/instruments/AltimeterFactory.h"
 #include "displays/instruments/AttitudeIndicatorFactory.h"
 #include "displays/instruments/BatteryPanelFactory.h"
@@ -100,7 +101,7 @@ void registerPanelFactories(Context& context, PanelManager& panels) {
     panels.addPanelFactory(std::make_unique<BatteryPanelFactory>(&context));
     panels.addPanelFactory(nullptr); // CheckListPanelFactory
     panels.addPanelFactory(nullptr); // GliderPanelFactory
-    panels.addPanelFactory(nullptr); // DetailsPanelFactory
+    panels.addPanelFactory(std::make_unique<DetailsPanelFactory>(&context));
     panels.addPanelFactory(nullptr); // SideViewPanelFactory
     panels.addPanelFactory(nullptr); // GlideInfoPanelFactory
 }

@@ -9,6 +9,7 @@
 #include "core/text/Numbers.h"
 #include "core/time/Time.h"
 #include "displays/drawing/Drawer2D.h"
+#include "displays/information/DetailsPanel.h"
 #include "displays/panels/MessageBoxView.h"
 #include "displays/panels/OverlayInstruments.h"
 #include "gui/font/FlexibleFont.h"
@@ -259,6 +260,18 @@ void PanelManager::nextPage() {
 
 void PanelManager::previousPage() {
     turnPage(-1);
+}
+
+void PanelManager::showPageWith(const std::string& panelName) {
+    const auto found = std::find_if(panels_.begin(), panels_.end(), [&](const LoadedPanel& loaded) {
+        return loaded.panel->getName() == panelName;
+    });
+    if (found != panels_.end() && found->page != currentPage_)
+        turnPage(found->page - currentPage_);
+}
+
+void PanelManager::showDetails(int id) {
+    showDetailsScreen(*context_, id);
 }
 
 void PanelManager::turnPage(int step) {

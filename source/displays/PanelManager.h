@@ -63,6 +63,8 @@ public:
 
     void nextPage();
     void previousPage();
+    /// The first page with a panel of that name; without one the page stays.
+    void showPageWith(const std::string& panelName);
     int getCurrentPage() const { return currentPage_; }
     int getPageCount() const { return layout_.pageCount; }
 
@@ -121,6 +123,8 @@ public:
 
     /// Over everything, on that page. The page that is shown stays while the manual is open already.
     void setManualVisible(const std::string& page = "index.hti");
+    /// What the charts know of the element of that id, over everything, until the pilot goes back.
+    void showDetails(int id);
     bool isManualVisible() const { return manual_ != nullptr; }
     /// Frames until the pilot has closed the manual; sensors go on.
     void blockForManualExit();

@@ -44,8 +44,7 @@ void showMapInfo(Context& context, int index, const ChartPosition& position) {
     IChartElement* element = chart && index != MapSelection::None ? chart->getChartElement(index) : nullptr;
     if (!element)
         return showBox(context, "Position:\n" + positionText(position));
-    showBox(context,
-            element->getIndicatedLabel(true, panels->isMetric()) + "\n\n" + positionText(element->getPosition()));
+    panels->showDetails(index);
 }
 
 void createDirect(Context& context, int index, const ChartPosition& marked, const ChartPosition& aircraft) {

@@ -15,8 +15,11 @@ PreviewPane::PreviewPane(Context& context, irr::gui::IGUIElement* parent, const 
     : IGUIElement(irr::gui::EGUIET_ELEMENT, context.getIrrlichtDevice()->getGUIEnvironment(), parent, -1, place),
       context_(context), paint_(std::move(paint)) {}
 
-void PreviewPane::add(Context& context, irr::gui::IGUIElement* parent, const irr::core::rect<int>& place, Paint paint) {
-    (new PreviewPane(context, parent, place, std::move(paint)))->drop();
+irr::gui::IGUIElement* PreviewPane::add(Context& context, irr::gui::IGUIElement* parent,
+                                        const irr::core::rect<int>& place, Paint paint) {
+    auto* pane = new PreviewPane(context, parent, place, std::move(paint));
+    pane->drop();
+    return pane;
 }
 
 void PreviewPane::draw() {
