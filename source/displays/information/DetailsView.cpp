@@ -43,8 +43,6 @@ DetailsView::DetailsView(Context& context, irr::gui::IGUIElement* parent, const 
     container_ = EngineRef<irr::gui::IGUIElement>::share(environment->addTab(area, parent));
     IniFile document = readLayout(area.getWidth() > area.getHeight() ? detailsLandscapeLayout : detailsPortraitLayout);
     gui_ = std::make_unique<GUI>(environment, &document, windowArea(container_.get()), container_.get(), false);
-    Skin::setButtonStyle(gui_->getElement("bselect"), "blueVis");
-    Skin::setButtonStyle(gui_->getElement("bmaps"), "greyVis");
     Skin::setButtonStyle(gui_->getElement("bcancel"), "redNormal");
     prepareHelpButton(&context, gui_->getElement("bhelp"), helpPage);
     sketch_ = EngineRef<irr::gui::IGUIElement>::share(
