@@ -263,9 +263,8 @@ void PanelManager::previousPage() {
 }
 
 void PanelManager::showPageWith(const std::string& panelName) {
-    const auto found = std::find_if(panels_.begin(), panels_.end(), [&](const LoadedPanel& loaded) {
-        return loaded.panel->getName() == panelName;
-    });
+    const auto found = std::find_if(panels_.begin(), panels_.end(),
+                                    [&](const LoadedPanel& loaded) { return loaded.panel->getName() == panelName; });
     if (found != panels_.end() && found->page != currentPage_)
         turnPage(found->page - currentPage_);
 }

@@ -14,7 +14,8 @@ public:
     using Paint = std::function<void(const irr::core::rect<int>&)>;
 
     /// Into the parent, at a place within it. What the function refers to outlives the parent, which holds the pane.
-    static irr::gui::IGUIElement* add(Context& context, irr::gui::IGUIElement* parent, const irr::core::rect<int>& place, Paint paint);
+    static irr::gui::IGUIElement* add(Context& context, irr::gui::IGUIElement* parent,
+                                      const irr::core::rect<int>& place, Paint paint);
 
     void draw() override;
 
