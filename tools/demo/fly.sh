@@ -16,7 +16,8 @@ cleanup() {
 trap cleanup EXIT
 
 feed() {
-    "$build/tools/flightfeed/flightfeed" --protocol flightgear --loop "$@" >/dev/null &
+    "$build/tools/flightfeed/flightfeed" --protocol flightgear --loop --card "$here/../flightfeed/cards/islands.card" \
+        "$@" >/dev/null &
     started+=($!)
 }
 
@@ -30,7 +31,7 @@ if [ -z "${SKYVANE_VIRTUAL:-}" ]; then
     exit
 fi
 
-feed --speed 4
+feed --from 700 --speed 4 # between the mountains
 "$home/skyvane" "$width" "$height" >"$home/skyvane.out" 2>&1 &
 program=$!
 started+=("$program")
@@ -43,10 +44,13 @@ done
 sleep 1
 xdotool windowfocus "$window" key Return
 seconds=${SECONDS_TO_FLY:-20}
-for _ in 1 2 3; do
+for pages in "" Next "Next Next"; do
+    for page in $pages; do
+        xdotool windowfocus "$window" key "$page"
+    done
     sleep $((seconds / 3))
     xdotool windowfocus "$window" key Insert
+    sleep 1
 done
-sleep 1
 echo "No display: flew on a virtual one. Screenshots:"
 ls -1 "$(cd "$home" && pwd)"/Screenshots/*.png

@@ -16,7 +16,7 @@ struct SegmentSources {
     int eteSeconds = -1;
     double distanceNauticalMiles = -1.0;
     ShortText nextWaypoint;
-    double groundElevationMetres = 0.0;
+    double groundElevationMetres = 0.0; ///< 0 where nobody knows it.
     bool metric = false;
 };
 

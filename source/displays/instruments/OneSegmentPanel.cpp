@@ -7,8 +7,10 @@
 #include "displays/gauges/SegmentFormat.h"
 #include "displays/instruments/TargetName.h"
 #include "procedures/framework/IProcedure.h"
+#include "terrain/TerrainManager.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iostream>
 
 namespace skyvane {
@@ -65,6 +67,10 @@ SegmentSources OneSegmentPanel::gatherSources() const {
     SegmentSources sources;
     sources.sensors = context_->getSensorManager();
     sources.metric = context_->getPanelManager()->isMetric();
+    if (const TerrainManager* terrain = context_->getPanelManager()->getTerrainManager()) {
+        const float elevation = terrain->getCurrentElevation();
+        sources.groundElevationMetres = std::isfinite(elevation) ? elevation : 0.0;
+    }
     if (const IProcedure* procedure = context_->getCurrentProcedure()) {
         sources.bearingDegrees = procedure->getBearing();
         sources.eteSeconds = procedure->getETE();
