@@ -266,7 +266,7 @@ class Comparison:
 def frozen(plan, feeder):
     """The glass and the state sent last, of the same moment: the feeder stands still for less than data takes to age."""
     feeder.send_signal(signal.SIGSTOP)
-    time.sleep(0.3)
+    time.sleep(0.6)
     pixels, sent = plan.cockpit.look(), plan.cockpit.truth()
     feeder.send_signal(signal.SIGCONT)
     return pixels, sent
