@@ -1,10 +1,17 @@
 #!/usr/bin/env bash
-# unit.sh BUILD: the unit tests of a build, those that draw on a display of their own.
+# unit.sh BUILD: the unit tests of a build, those that draw on a display of their own, beside the others.
 set -euo pipefail
 build=$1
 [ -n "${SKYVANE_DATA:-}" ] || echo "skipped: tests on recorded flights and real airports, since SKYVANE_DATA names no folder"
-# The engine and Mesa keep allocations for the life of the process; what a test itself leaks is told in lower_tests.
-"$build/tests/lower_tests" --gtest_brief=1
-# So do the libraries that draw and read geodata for the tools.
-ASAN_OPTIONS=detect_leaks=0 "$build/tests/tool_tests" --gtest_brief=1
-ASAN_OPTIONS=detect_leaks=0 tools/demo/with-display.sh "$build/tests/upper_tests" --gtest_brief=1
+# The engine and Mesa keep allocations for the life of the process, and so do the libraries that draw and read geodata
+# for the tools; what a test itself leaks is told in lower_tests.
+drawn=$(mktemp)
+trap 'rm -f "$drawn"' EXIT
+ASAN_OPTIONS=detect_leaks=0 tools/demo/with-display.sh "$build/tests/upper_tests" --gtest_brief=1 >"$drawn" 2>&1 &
+upper=$!
+status=0
+"$build/tests/lower_tests" --gtest_brief=1 || status=1
+ASAN_OPTIONS=detect_leaks=0 "$build/tests/tool_tests" --gtest_brief=1 || status=1
+wait "$upper" || status=1
+cat "$drawn"
+exit $status

@@ -2,8 +2,9 @@
 
     run_tests.py BUILD [--smoke] [--quick] [--jobs=N] [WORD...]
 
---smoke: only those marked with @smoke; --quick: none of those marked with @thorough; WORD: only names that hold it; --jobs: that many at a time, each in a network of
-its own, since the simulators' ports are fixed. Where no such network can be had, one after another.
+--smoke: only those marked with @smoke; --quick: none of those marked with @thorough; WORD: only names that hold it;
+--jobs: that many at a time, each in a network of its own, since the simulators' ports are fixed. Where no such network
+can be had, one after another.
 """
 import concurrent.futures
 import glob

@@ -8,6 +8,7 @@ import numpy
 
 from cockpit import ROOT, Cockpit
 from dials import yellow
+from run_tests import thorough
 from test_menu import Flight
 
 DEMO = open(os.path.join(ROOT, 'tools/demo/config.ini')).read()
@@ -57,6 +58,7 @@ def test_ten_thousand_panels(build):
     flies(build, config, name='ten-thousand-panels')
 
 
+@thorough
 def test_a_storm_of_keys_and_clicks(build):
     noise = random.Random(11)
     keys = ['Return', 'Escape', 'Prior', 'Next', 'Tab', 'BackSpace', 'End', 'a', '7', 'space', 'XF86_Back', 'Left']
@@ -79,6 +81,7 @@ def test_a_storm_of_keys_and_clicks(build):
         assert cockpit.program.returncode == 0, cockpit.output()[-600:]  # the storm may have found the exit
 
 
+@thorough
 def test_documents_that_cannot_be_saved_are_told(build):
     """While a folder stands in the place of a document nothing can be written there."""
     with Cockpit(build, DEMO) as cockpit:

@@ -343,6 +343,7 @@ def is_blue(pixels):
     return ((part[:, :, 2] > 180) & (part[:, :, 0] < 130)).sum() > 100
 
 
+@thorough
 def test_the_simulator_flies_what_is_left_of_a_damaged_plan(build):
     with Cockpit(build, config(), SIZE, prepare=prepare(build)) as cockpit:
         plan = Plan(cockpit)

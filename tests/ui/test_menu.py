@@ -7,6 +7,7 @@ import numpy
 from cockpit import Cockpit
 from dials import red
 from glass import GREEN, RED, ROWS, Glass
+from run_tests import thorough
 from test_dials import DEMO, DIALS, SIZE, STATES, dismiss_box, hold
 from test_links import SIMULATOR, log_of
 from test_start import read_ini
@@ -213,6 +214,7 @@ def set_up_panels(flight):
     assert 0.3 < float(panel['ViewPortSX']) < 0.7 and panel['ViewPortTX'] == '1', panel
 
 
+@thorough
 def test_panels_restoring_and_the_exit(build):
     with Cockpit(build, DEMO, SIZE) as cockpit:
         flight = Flight(cockpit)

@@ -1,6 +1,7 @@
 """Settings behind combo boxes, and the options of single panels, clicked in the running program and read from the
 document."""
 from cockpit import Cockpit
+from run_tests import thorough
 from test_dials import DEMO
 from test_menu import PANELS, Flight
 
@@ -38,6 +39,7 @@ def edit(flight, panel, change):
     flight.click(*flight.editor_button('Ok'))
 
 
+@thorough
 def test_options_are_changed_by_combo_boxes_and_ticks(build):
     for size in SIZES:
         with Cockpit(build, page(size), size) as cockpit:

@@ -3,6 +3,7 @@ import time
 
 from cockpit import Cockpit
 from glass import Glass
+from run_tests import thorough
 from test_start import read_ini
 
 CONFIG = 'major = 2\nminor = 9\noptimized = 0\nPanelCount = 0\nSensorCount = 0\n' + ''.join(
@@ -85,6 +86,7 @@ def values(document):
     return [value for section in document.values() for value in section.values()]
 
 
+@thorough
 def test_a_checklist_is_written_with_the_finger(build):
     for size in ((1280, 720), (800, 480)):
         with Cockpit(build, CONFIG, size=size) as cockpit:
