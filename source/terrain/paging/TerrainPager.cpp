@@ -6,14 +6,14 @@
 #include "terrain/tree/TerrainSampler.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <pthread.h>
 
 namespace skyvane {
 namespace {
 
-constexpr int RoundMilliseconds = 10;
-constexpr int PausePollMilliseconds = 100;
+constexpr std::chrono::milliseconds RoundTime(10);
 /// Finer than every leaf.
 constexpr double ElevationDensity = 200.0;
 constexpr double NearMoveMetres = 300.0;
@@ -40,6 +40,7 @@ TerrainPager::~TerrainPager() {
         const Lock lock(mutexMessageAndPos_);
         exitRequest_ = true;
     }
+    wake_.notify_all();
     if (started_)
         pthread_join(thread_, nullptr);
 }
@@ -52,8 +53,11 @@ bool TerrainPager::start() {
 
 void* TerrainPager::terrMain(void* self) {
     auto* pager = static_cast<TerrainPager*>(self);
+    const auto isCalled = [pager] { return pager->exitRequest_ || pager->pauseRequest_ != pager->isPaused_; };
     do {
-        Delay(pager->isThreadPaused() ? PausePollMilliseconds : RoundMilliseconds);
+        // Not Delay(): a thread that waits must not move a clock that a test has put in place.
+        std::unique_lock<std::mutex> lock(pager->mutexMessageAndPos_);
+        pager->wake_.wait_for(lock, RoundTime, isCalled);
     } while (pager->runRound());
     return nullptr;
 }
@@ -66,6 +70,7 @@ bool TerrainPager::runRound() {
     {
         const Lock lock(mutexMessageAndPos_);
         isPaused_ = pauseRequest_;
+        wake_.notify_all();
         if (exitRequest_ || isPaused_)
             return !exitRequest_;
         points.swap(pCalls_);

@@ -5,6 +5,7 @@
 #include "terrain/paging/TerrainRequests.h"
 #include "terrain/tree/TerrainStore.h"
 
+#include <condition_variable>
 #include <list>
 #include <memory>
 #include <mutex>
@@ -115,6 +116,7 @@ private:
 
     /// Guards what follows; held to move lists and copy values, never while heights are looked up. Leaf.
     mutable std::mutex mutexMessageAndPos_;
+    std::condition_variable wake_; ///< The thread is called, or has paused.
     Aircraft aircraft_;
     PointCalls pCalls_, finishedPoints_;
     ImageCalls calls_, finishedImages_;

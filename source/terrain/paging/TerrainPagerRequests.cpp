@@ -1,12 +1,9 @@
-#include "core/time/Time.h"
 #include "terrain/paging/TerrainPager.h"
 
 #include <algorithm>
 
 namespace skyvane {
 namespace {
-
-constexpr int PausePollMilliseconds = 10;
 
 using Lock = std::lock_guard<std::mutex>;
 
@@ -61,8 +58,11 @@ void TerrainPager::dropUnwanted(News& news) {
 }
 
 void TerrainPager::setPauseThreadRequest(bool pause) {
-    const Lock lock(mutexMessageAndPos_);
-    pauseRequest_ = pause;
+    {
+        const Lock lock(mutexMessageAndPos_);
+        pauseRequest_ = pause;
+    }
+    wake_.notify_all();
 }
 
 bool TerrainPager::isThreadPaused() const {
@@ -72,8 +72,9 @@ bool TerrainPager::isThreadPaused() const {
 
 void TerrainPager::pauseThread(bool pause) {
     setPauseThreadRequest(pause);
-    while (pause && started_ && !isThreadPaused())
-        Delay(PausePollMilliseconds);
+    std::unique_lock<std::mutex> lock(mutexMessageAndPos_);
+    if (pause && started_)
+        wake_.wait(lock, [this] { return isPaused_ || !pauseRequest_; });
 }
 
 } // namespace skyvane
