@@ -24,6 +24,7 @@ namespace {
 
 constexpr const char* helpPage = "Details.hti";
 constexpr const char* emptyText = "\\R\n\\T\"No element of the charts is chosen.\"\\n\n\\n\n";
+constexpr size_t longestHead = 200;
 constexpr const char* shownElements[] = {"lfrequencies"};
 constexpr const char* searchElements[] = {"cdest", "edest", "brecent", "bnrst", "bcancel", "ldest", "tdistbearing"};
 
@@ -129,8 +130,7 @@ void DetailsView::showFrequencies() {
     const IChartElement* shown = element();
     if (!shown)
         return;
-    const std::vector<std::string> com = frequencyRows(shown->getComFrequencies());
-    addFrequenciesToListbox(L"COM FREQUENCIES", com);
+    addFrequenciesToListbox(L"COM FREQUENCIES", frequencyRows(shown->getComFrequencies()));
     addFrequenciesToListbox(L"NAV FREQUENCIES", frequencyRows(shown->getNavFrequencies()));
 }
 
@@ -139,10 +139,13 @@ void DetailsView::addFrequenciesToListbox(const wchar_t* heading, const std::vec
         return;
     auto* list = gui_->get<irr::gui::IGUIListBox>("lfrequencies");
     irr::gui::IGUIFont* font = context_.getSkin()->getFont();
-    const auto room =
-        static_cast<unsigned>(list->getAbsolutePosition().getWidth() - context_.getRecommendedButtonHeight());
+    const int room = list->getAbsolutePosition().getWidth() - context_.getRecommendedButtonHeight();
+    const auto width = [font](const std::wstring& text) {
+        return static_cast<int>(font->getDimension(text.c_str()).Width);
+    };
     std::wstring head = std::wstring(heading) + L" ";
-    while (font && font->getDimension((head + L"-").c_str()).Width < room)
+    // A font may lack the dash: its width alone doesn't end this.
+    while (font && head.size() < longestHead && width(head + L"-") < room)
         head += L'-';
     list->addItem(head.c_str());
     for (const std::string& row : rows)
