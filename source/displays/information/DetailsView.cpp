@@ -50,7 +50,10 @@ DetailsView::DetailsView(Context& context, irr::gui::IGUIElement* parent, const 
         PreviewPane::add(context, container_.get(), gui_->getSpecialRectangle("ssketch"),
                          [this](const irr::core::rect<int>& rect) { drawSketch(rect); }));
     irr::core::rect<int> textPlace = gui_->getSpecialRectangle("stext");
+    irr::core::rect<int> listPlace = gui_->getElement("ldest")->getRelativePosition();
     textPlace.LowerRightCorner.Y -= spareHeight;
+    listPlace.LowerRightCorner.Y -= spareHeight;
+    gui_->getElement("ldest")->setRelativePosition(listPlace);
     text_ = EngineRef<CHyperTextElement>::adopt(
         new CHyperTextElement(context.getIrrlichtDevice(), textPlace, container_.get(), emptyText,
                               static_cast<int>(std::char_traits<char>::length(emptyText)), {}));
