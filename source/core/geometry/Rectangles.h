@@ -4,6 +4,12 @@
 
 namespace skyvane {
 
+/// Whether there is anything inside: false for a rectangle without width or height, or inside out. The engine's
+/// getArea() can't tell for places on a page of any length, whose area overflows.
+inline bool hasArea(const irr::core::rect<int>& rect) {
+    return rect.LowerRightCorner.X > rect.UpperLeftCorner.X && rect.LowerRightCorner.Y > rect.UpperLeftCorner.Y;
+}
+
 /// The largest rectangle of that width-to-height ratio inside `rect`, centred. In single precision; the half length is
 /// truncated, the centre is the integer half of the sum of the edges. `rect` itself for a ratio that isn't positive.
 irr::core::rect<int> makeXic(const irr::core::rect<int>& rect, float aspect);

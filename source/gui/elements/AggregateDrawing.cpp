@@ -1,4 +1,6 @@
 #include "gui/elements/AggregateGUIElement.h"
+
+#include "core/geometry/Rectangles.h"
 #include "gui/skin/Skin.h"
 
 namespace skyvane {
@@ -9,7 +11,7 @@ void AggregateGUIElement::draw() {
     updateScrollSpeed();
     drawRows();
     for (irr::gui::IGUIElement* child : Children)
-        if (child->isNotClipped() || child->getAbsoluteClippingRect().getArea() > 0)
+        if (child->isNotClipped() || hasArea(child->getAbsoluteClippingRect()))
             child->draw();
 }
 
@@ -20,7 +22,7 @@ void AggregateGUIElement::drawRows() const {
         return;
     for (IAggregatableGUIElement* child : activatable_) {
         const irr::core::rect<irr::s32> clip = child->getAbsoluteClippingRect();
-        if (!child->isVisible() || clip.getArea() <= 0)
+        if (!child->isVisible() || !hasArea(clip))
             continue;
         irr::core::rect<irr::s32> row = child->getAbsolutePosition();
         row.UpperLeftCorner += irr::core::position2di(1, 1);

@@ -4,6 +4,7 @@
 #include "core/engine/MipmappedTexture.h"
 #include "core/engine/TouchEvents.h"
 #include "core/events/EventReceiver.h"
+#include "core/geometry/Rectangles.h"
 #include "core/ini/IniFile.h"
 #include "core/time/Time.h"
 #include "displays/drawing/Drawer2D.h"
@@ -160,7 +161,7 @@ void InputSystem::placeChangeKey() {
     const int width = std::max(height, context_->getRecommendedButtonWidth());
     const recti cover = current().getCover();
     const int bottom =
-        cover.getArea() != 0 && cover.UpperLeftCorner.X < width ? cover.UpperLeftCorner.Y : screen.Height;
+        hasArea(cover) && cover.UpperLeftCorner.X < width ? cover.UpperLeftCorner.Y : screen.Height;
     changeKey_ = std::make_unique<TouchKey>(context_, 0, 0, irr::KEY_KEY_CODES_COUNT,
                                             recti(0, bottom - height, width, bottom), changeImage_.get());
 }
@@ -198,7 +199,7 @@ void InputSystem::finishFocus() {
 void InputSystem::makeRoom() {
     covers_.clear();
     covers_.push_back(changeKey_->getRect());
-    if (current().getCover().getArea() != 0)
+    if (hasArea(current().getCover()))
         covers_.push_back(current().getCover());
     lift_.lift(editBox_.get(), covers_, changeKey_->getRect().getHeight() / 6);
 }
@@ -217,7 +218,7 @@ void InputSystem::handleEditBoxMarking() {
 int InputSystem::getCoveredTop() const {
     const int height = static_cast<int>(context_->getIrrlichtDevice()->getVideoDriver()->getScreenSize().Height);
     const recti cover = current().getCover();
-    return isShown() && cover.getArea() != 0 ? cover.UpperLeftCorner.Y : height;
+    return isShown() && hasArea(cover) ? cover.UpperLeftCorner.Y : height;
 }
 
 /// Comes up softly: what stands behind can be seen to stay.

@@ -42,4 +42,11 @@ TEST(Rectangles, AMeaninglessRatioLeavesTheRectangle) {
     EXPECT_EQ(rect, makeXic(rect, -1.0f));
 }
 
+TEST(Rectangles, TellWhetherTheyHaveAnAreaThatNoIntHolds) {
+    EXPECT_TRUE(hasArea(Rect(0, 0, 65536, 65536))) << "whose product is 0 in 32 bits";
+    EXPECT_TRUE(hasArea(Rect(0, 0, 166, 26800026)));
+    EXPECT_FALSE(hasArea(Rect(5, 0, 5, 100)));
+    EXPECT_FALSE(hasArea(Rect(10, 10, 5, 5))) << "inside out both ways";
+}
+
 } // namespace skyvane

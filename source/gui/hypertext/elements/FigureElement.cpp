@@ -1,5 +1,6 @@
 #include "gui/hypertext/elements/FigureElement.h"
 
+#include "core/geometry/Rectangles.h"
 #include "core/text/Numbers.h"
 #include "gui/hypertext/elements/Html.h"
 
@@ -44,7 +45,7 @@ IDocElement::Rect FigureElement::calcRelativeViewPort(IDocCanvas& canvas, const 
 
 void FigureElement::render(const Rect& parent, DocPass& pass) {
     const Rect place = placeIn(parent);
-    if (picture_ && relative_.getArea() > 0 && place.isRectCollided(pass.clip))
+    if (picture_ && hasArea(relative_) && place.isRectCollided(pass.clip))
         picture_->draw(inner_ + place.UpperLeftCorner, pass.clip);
 }
 

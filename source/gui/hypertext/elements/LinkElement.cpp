@@ -1,5 +1,6 @@
 #include "gui/hypertext/elements/LinkElement.h"
 
+#include "core/geometry/Rectangles.h"
 #include "gui/hypertext/elements/Html.h"
 
 #include <algorithm>
@@ -25,7 +26,7 @@ IDocElement::Rect LinkElement::calcRelativeViewPort(IDocCanvas& canvas, const St
 
 void LinkElement::render(const Rect& parent, DocPass& pass) {
     const Rect place = placeIn(parent);
-    if (relative_.getArea() == 0 || !place.isRectCollided(pass.clip))
+    if (!hasArea(relative_) || !place.isRectCollided(pass.clip))
         return;
     const bool touched = pass.isMouseInside(place);
     const bool pressed = touched && pass.isPressed();
