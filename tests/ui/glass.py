@@ -119,7 +119,7 @@ class Glass:
 
     def answer(self, colour):
         """Presses the uppermost button of that colour, once there is one."""
-        self.click(*self.cockpit.wait(lambda: self.coloured(colour), 5, 'a %s button' % colour))
+        self.click(*self.cockpit.wait(lambda: self.coloured(colour), 20, 'a %s button' % colour))
 
     def editor_button(self, which):
         """"Cancel", "Help" or "Ok" of a settings editor."""

@@ -125,7 +125,7 @@ def test_documents_that_cannot_be_saved_are_told(build):
         def is_yellow():
             above = cockpit.look()[:int(area[1])].astype(int)  # the window
             return numpy.mean(yellow(above[:, :, 0], above[:, :, 1], above[:, :, 2])) > 0.005
-        cockpit.wait(is_yellow, 5, 'a yellow message')
+        cockpit.wait(is_yellow, 20, 'a yellow message')
         cockpit.save(cockpit.look(), 'forwarders-not-saved')
         unwritable('config.ini')
         assert flight.text() == before

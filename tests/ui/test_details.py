@@ -58,7 +58,7 @@ def look_up(build, size):
         cockpit.key('Return')
         time.sleep(0.4)
         reader.tap('bselect')
-        cockpit.wait(lambda: reader.brightness('lfrequencies') > 0.003, 5, 'the frequencies')
+        cockpit.wait(lambda: reader.brightness('lfrequencies') > 0.003, 20, 'the frequencies')
         assert reader.brightness('stext') > 0.003
         reader.keep('navaid')
         reader.tap('bmaps')

@@ -290,7 +290,7 @@ def test_a_plan_is_flown_as_a_pilot_computes_it(build):
         time.sleep(1)
         plan.load(0, 5)
         cockpit.save(cockpit.look(), 'flightplan-loaded')
-        cockpit.wait(lambda: plan.current(cockpit.look()) == 0, 5, 'the plan')
+        cockpit.wait(lambda: plan.current(cockpit.look()) == 0, 20, 'the plan')
         end(feeder)
         card = os.path.join(cockpit.folder, 'flight.card')
         with open(card, 'w') as out:
@@ -350,7 +350,7 @@ def test_the_simulator_flies_what_is_left_of_a_damaged_plan(build):
         plan.load(1, 1)
         time.sleep(0.5)
         plan.answer(GREEN)  # that the others can't be flown
-        cockpit.wait(lambda: plan.current(cockpit.look()) == 0, 5, 'the window')
+        cockpit.wait(lambda: plan.current(cockpit.look()) == 0, 20, 'the window')
         plan.press(PLAN, 'bclose', plan.low)
         plan.open('Position Simulator')
         time.sleep(1)
@@ -364,9 +364,9 @@ def test_the_simulator_flies_what_is_left_of_a_damaged_plan(build):
         time.sleep(1)
         cockpit.save(cockpit.look(), 'simulator-search')
         plan.press(WHERE, 'bstart', plan.high)
-        cockpit.wait(lambda: is_blue(cockpit.look()), 5, 'the word in the bar')
+        cockpit.wait(lambda: is_blue(cockpit.look()), 20, 'the word in the bar')
         plan.press(WHERE, 'bclose', plan.high)
-        cockpit.wait(lambda: message_lines(cockpit.look()) == 1, 4, 'the warning that nothing is real')
+        cockpit.wait(lambda: message_lines(cockpit.look()) == 1, 20, 'the warning that nothing is real')
         cockpit.save(cockpit.look(), 'simulator-started')
         time.sleep(0.5)
         plan.open('FlightPlan')
@@ -379,5 +379,5 @@ def test_the_simulator_flies_what_is_left_of_a_damaged_plan(build):
         plan.open('Position Simulator')
         time.sleep(1)
         plan.press(WHERE, 'bstart', plan.high)
-        cockpit.wait(lambda: not is_blue(cockpit.look()), 5, 'the end of the simulation')
+        cockpit.wait(lambda: not is_blue(cockpit.look()), 20, 'the end of the simulation')
         assert cockpit.close() == 0

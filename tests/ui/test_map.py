@@ -68,7 +68,7 @@ class Map:
             found = find_mark(self.pixels, place)
             return found and math.hypot(found[0] - place[0], found[1] - place[1]) < 5
         try:
-            self.cockpit.wait(is_there, 8, 'the mark at %.0f, %.0f' % place)
+            self.cockpit.wait(is_there, 20, 'the mark at %.0f, %.0f' % place)
         finally:
             self.cockpit.save(self.pixels, 'map-' + name)
 
@@ -123,7 +123,7 @@ def test_options_of_a_map_are_written_to_its_section(build):
         document = OPTIONS % chart.glass.shape
         for name in ('cmarks', 'cheliports', 'boptOk'):
             chart.glass.press(document, name)
-        cockpit.wait(lambda: find_mark(cockpit.look(), place) is None, 8, 'the mark to go')
+        cockpit.wait(lambda: find_mark(cockpit.look(), place) is None, 20, 'the mark to go')
         with open(cockpit.path('data', 'config.ini')) as text:
             section = text.read().split('[P0]')[1]
         assert 'marks = 0' in section and 'heliports = 1' in section and 'terrainEnable = 0' in section, section

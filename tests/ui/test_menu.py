@@ -36,7 +36,7 @@ class Flight(Glass):
         return read_ini(self.cockpit.path('data', name + '.ini'))
 
     def wait_for(self, key, value, name='config'):
-        self.cockpit.wait(lambda: self.document(name)[''].get(key) == value, 5, '%s = %s' % (key, value))
+        self.cockpit.wait(lambda: self.document(name)[''].get(key) == value, 20, '%s = %s' % (key, value))
 
     def choose_preset(self, name, remember=False):
         area = (self.width // 12, self.height // 12, self.width - self.width // 12, self.height - self.height // 12)
@@ -69,7 +69,7 @@ def set_up_the_program(flight):
     def is_yellow():
         r, g, b = flight.cockpit.look()[y + flight.button // 2, x].astype(int)
         return r > b + 30 and g > b + 20
-    flight.cockpit.wait(is_yellow, 5, 'a yellow row')
+    flight.cockpit.wait(is_yellow, 20, 'a yellow row')
     flight.menu()
 
 
@@ -88,7 +88,7 @@ def set_up_aircraft(flight):
     flight.click(*flight.editor_button('Ok'))
     flight.write(flight.editor_row(2), '57')
     flight.click(*flight.editor_button('Ok'))
-    flight.cockpit.wait(lambda: flight.document('aircrafts')['A1']['Vs'] == '57', 5, 'the new speed')
+    flight.cockpit.wait(lambda: flight.document('aircrafts')['A1']['Vs'] == '57', 20, 'the new speed')
     assert flight.document('aircrafts')['A1']['Name'] == 'glider'
     flight.press(AIRCRAFT, 'bmore')
     flight.press(AIRCRAFT, 'bnew')
@@ -96,7 +96,7 @@ def set_up_aircraft(flight):
     flight.write(flight.element(CHECKLIST, 'elines'), 'fuel')
     flight.press(CHECKLIST, 'bok')
     flight.cockpit.save(flight.cockpit.look(), 'menu-checklist')
-    flight.cockpit.wait(lambda: flight.document('aircrafts')['A1']['ListCount'] == '1', 5, 'a checklist')
+    flight.cockpit.wait(lambda: flight.document('aircrafts')['A1']['ListCount'] == '1', 20, 'a checklist')
     aircraft = flight.document('aircrafts')['A1']
     assert aircraft['L0.Name'] == 'start' and aircraft['L0'] == 'fuel', aircraft
     flight.press(AIRCRAFT, 'bcancel')
@@ -136,15 +136,15 @@ def step_the_altimeter(flight):
     same = lambda: [numpy.array_equal(a, b) for a, b in zip(first, texts())]
     for button in ('bmore', 'bmuchmoreHg'):
         flight.press(ALTIMETER, button, area)
-    flight.cockpit.wait(lambda: same() == [False, False], 5, 'other figures in both units')
+    flight.cockpit.wait(lambda: same() == [False, False], 20, 'other figures in both units')
     for button in ('bless', 'bmuchlessHg'):
         flight.press(ALTIMETER, button, area)
-    flight.cockpit.wait(lambda: same() == [True, True], 5, 'steps that take each other back')
+    flight.cockpit.wait(lambda: same() == [True, True], 20, 'steps that take each other back')
     hand = DIALS['altimeter'].needle(flight.cockpit.look(), 0.725)
     flight.press(ALTIMETER, 'cautoQnh', area)
     flight.press(ALTIMETER, 'bmuchmore', area)
     flight.press(ALTIMETER, 'bclose', area)
-    flight.cockpit.wait(lambda: DIALS['altimeter'].needle(flight.cockpit.look(), 0.725) != hand, 5, 'moved hands')
+    flight.cockpit.wait(lambda: DIALS['altimeter'].needle(flight.cockpit.look(), 0.725) != hand, 20, 'moved hands')
 
 
 def forward(flight):
@@ -178,13 +178,13 @@ def test_altimeter_forwarders_calibration_and_homepage(build):
         step_the_altimeter(flight)
         forward(flight)
         flight.open('Calib.')
-        cockpit.wait(lambda: flight.coloured(GREEN), 5, 'the refusal')
+        cockpit.wait(lambda: flight.coloured(GREEN), 20, 'the refusal')
         cockpit.key('Return')
         time.sleep(0.3)
         assert not flight.coloured(GREEN)
         flight.open('Homepage')
         opened = os.path.join(cockpit.folder, 'opened')
-        cockpit.wait(lambda: os.path.exists(opened) and os.path.getsize(opened), 5, 'the browser')
+        cockpit.wait(lambda: os.path.exists(opened) and os.path.getsize(opened), 20, 'the browser')
         page = open(opened).read().strip()
         assert page.startswith('file:///') and os.path.isfile(page[7:]), page
         cockpit.save(cockpit.look(), 'menu-homepage')
@@ -263,7 +263,7 @@ def test_a_log_is_paused_and_played_from_the_menu(build):
         # "Play" is "Pause" while it plays.
         for button, goes_on in (('Play', False), ('Play', True), ('Stop', False), ('Play', True)):
             flight.click(*flight.playback_place(button))
-            cockpit.wait(lambda: moves() == goes_on, 5, '%s: %s' % (button, goes_on))
+            cockpit.wait(lambda: moves() == goes_on, 20, '%s: %s' % (button, goes_on))
         time.sleep(2)
         assert moves(), 'from the start again after three seconds'
         assert DIALS['altimeter'].share(cockpit.look(), red) < 0.02

@@ -113,5 +113,5 @@ def test_an_approach_is_set_up_and_warns_of_what_the_charts_dont_know(build):
         assert plan['proc[0].isLeftTraffic'] == '1' and plan['proc[0].targetGroundSpeed'] == '120', plan
         assert not planner.warns(), 'messages are off'
         planner.press(PLAN, 'bclose', planner.lower_area())
-        cockpit.wait(planner.warns, 3, 'the warning of the unknown accuracy')
+        cockpit.wait(planner.warns, 20, 'the warning of the unknown accuracy')
         assert cockpit.close() == 0

@@ -35,10 +35,10 @@ def details_come_and_go(flight, place, name):
     page_alone = look()
     is_page = lambda: abs(look() - page_alone).mean() < 2
     flight.click(*middle(place, cockpit.size))
-    cockpit.wait(lambda: not is_page(), 5, 'the details')
+    cockpit.wait(lambda: not is_page(), 20, 'the details')
     cockpit.save(cockpit.look(), 'tap-%s-%dx%d' % ((name,) + cockpit.size))
     cockpit.key('Return')
-    cockpit.wait(is_page, 5, 'the details to go')
+    cockpit.wait(is_page, 20, 'the details to go')
 
 
 def bug_angle(cockpit, dial):
@@ -73,9 +73,9 @@ def overlays_give_way(flight):
         part = cockpit.look()[place[1] - 25:place[1] + 25, place[0] - 25:place[0] + 25].astype(int)
         return numpy.mean(part[:, :, 2] > part[:, :, 0] + 60) > 0.1
     for _ in range(2):
-        cockpit.wait(lambda: blue_at(large) and not blue_at(small), 5, 'the instruments over the page')
+        cockpit.wait(lambda: blue_at(large) and not blue_at(small), 20, 'the instruments over the page')
         flight.click(*large)
-        cockpit.wait(lambda: blue_at(small) and not blue_at(large), 5, 'the instruments in the corner')
+        cockpit.wait(lambda: blue_at(small) and not blue_at(large), 20, 'the instruments in the corner')
         cockpit.save(cockpit.look(), 'tap-overlays-%dx%d' % cockpit.size)
         flight.click(*small)
     cockpit.key('XF86_Back')
