@@ -4,7 +4,8 @@
 
 --smoke: only those marked with @smoke; --quick: none of those marked with @thorough; WORD: only names that hold it;
 --jobs: that many at a time, each in a network of its own, since the simulators' ports are fixed. Where no such network
-can be had, one after another.
+can be had, one after another. What failed beside another test is run again alone, and told: a machine that was too busy
+for the test's patience proves nothing, but whoever reads the log shall know.
 """
 import concurrent.futures
 import glob
@@ -78,6 +79,9 @@ def main():
     if jobs > 1 and subprocess.run(OWN_NETWORK + ['true'], stderr=subprocess.DEVNULL).returncode == 0:
         with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
             results = list(pool.map(lambda test: run_apart(build, *test), tests))
+        for index in [i for i, passed in enumerate(results) if not passed]:
+            print('again, alone: %s' % tests[index][1])
+            results[index] = run_apart(build, *tests[index])
     else:
         results = [run_here(build, *test) for test in tests]
     print('%d passed, %d failed' % (results.count(True), results.count(False)))
