@@ -164,26 +164,37 @@ void TerrainPager::forgetMeshes() {
 }
 
 void TerrainPager::exchange(const Aircraft& aircraft, News& news) {
+    ImageCalls images = takeWaitingImages();
     {
         const Lock lock(mutexMessageAndPos_);
-        collectRequests();
-        news.points.splice(news.points.end(), finishedPoints_);
-        news.images.splice(news.images.end(), finishedImages_);
-        aircraft_ = aircraft;
-        news.nearMesh = newMeshAvailable_;
-        if (newMeshAvailable_)
-            std::swap(loadingNear_, news.near);
-        terrContinue_ |= newMeshAvailable_;
-        newMeshAvailable_ = false;
-        news.wideMesh = newWideMeshAvailable_;
-        if (newWideMeshAvailable_)
-            std::swap(loadingWide_, news.wide);
-        terrWideContinue_ |= newWideMeshAvailable_;
-        newWideMeshAvailable_ = false;
-        news.currentElevation = currentElevation_;
-        news.lost = lost_;
+        if (lockWatch_)
+            lockWatch_->OnLocked();
+        swapWithThread(aircraft, images, news);
+        if (lockWatch_)
+            lockWatch_->OnUnlocking();
     }
     dropUnwanted(news);
+}
+
+/// Under the lock: lists and meshes change hands, nothing is allocated or freed.
+void TerrainPager::swapWithThread(const Aircraft& aircraft, ImageCalls& images, News& news) {
+    pCalls_.splice(pCalls_.end(), waitingPoints_);
+    calls_.splice(calls_.end(), images);
+    news.points.splice(news.points.end(), finishedPoints_);
+    news.images.splice(news.images.end(), finishedImages_);
+    aircraft_ = aircraft;
+    news.nearMesh = newMeshAvailable_;
+    if (newMeshAvailable_)
+        std::swap(loadingNear_, news.near);
+    terrContinue_ |= newMeshAvailable_;
+    newMeshAvailable_ = false;
+    news.wideMesh = newWideMeshAvailable_;
+    if (newWideMeshAvailable_)
+        std::swap(loadingWide_, news.wide);
+    terrWideContinue_ |= newWideMeshAvailable_;
+    newWideMeshAvailable_ = false;
+    news.currentElevation = currentElevation_;
+    news.lost = lost_;
 }
 
 } // namespace skyvane

@@ -43,6 +43,16 @@ public:
         std::list<std::unique_ptr<ImageCall>> images;
     };
 
+    /// Told how long an exchange holds the lock: right after it has it and right before it gives it back.
+    class ILockWatch {
+    public:
+        virtual void OnLocked() = 0;
+        virtual void OnUnlocking() = 0;
+
+    protected:
+        ~ILockWatch() = default;
+    };
+
     /// The store outlives the pager. Vertices per side of the near mesh.
     TerrainPager(TerrainStore& store, int sampleAmount);
     /// Waits for the round that goes on.
@@ -59,6 +69,8 @@ public:
 
     /// Hands requests and the aircraft's place to the thread and takes what is done.
     void exchange(const Aircraft& aircraft, News& news);
+    /// For measurements; outlives the exchanges. Null for none.
+    void watchLock(ILockWatch* watch) { lockWatch_ = watch; }
 
     /// In place of one of the same caller that waits.
     void requestHeightPoints(std::unique_ptr<PointCall> call);
@@ -86,7 +98,8 @@ private:
     void buildNear(const Aircraft& aircraft, float elevation);
     void buildWide(const Aircraft& aircraft);
     void forgetMeshes();
-    void collectRequests();
+    ImageCalls takeWaitingImages();
+    void swapWithThread(const Aircraft& aircraft, ImageCalls& images, News& news);
     void dropUnwanted(News& news);
     bool isDropped(const void* who, unsigned number) const;
 
@@ -109,6 +122,7 @@ private:
     std::list<const void*> busyRequesters_; ///< With an image on the thread, done or not.
     unsigned nextNumber_ = 0;
     std::map<const void*, unsigned> dropBefore_; ///< Answers to earlier requests of these aren't wanted.
+    ILockWatch* lockWatch_ = nullptr;
 
     // The thread's.
     LastMesh lastNear_, lastWide_;

@@ -36,17 +36,18 @@ bool TerrainPager::isDropped(const void* who, unsigned number) const {
     return it != dropBefore_.end() && number < it->second;
 }
 
-/// Moves what waits to the thread: all profiles, and images of requesters without one there. Under the lock.
-void TerrainPager::collectRequests() {
-    pCalls_.splice(pCalls_.end(), waitingPoints_);
+/// Images that may go to the thread: those of requesters without one there.
+TerrainPager::ImageCalls TerrainPager::takeWaitingImages() {
+    ImageCalls ready;
     for (auto it = waitingImages_.begin(); it != waitingImages_.end();) {
         const auto call = it++;
         const void* requester = (*call)->requester;
         if (std::find(busyRequesters_.begin(), busyRequesters_.end(), requester) != busyRequesters_.end())
             continue;
         busyRequesters_.push_back(requester);
-        calls_.splice(calls_.end(), waitingImages_, call);
+        ready.splice(ready.end(), waitingImages_, call);
     }
+    return ready;
 }
 
 /// After the lists were taken, without the lock.
