@@ -3,6 +3,7 @@
 #include "procedures/course/CourseElement.h"
 
 #include <optional>
+#include <string>
 
 namespace skyvane {
 
@@ -21,6 +22,18 @@ struct ApproachPath {
     double turnRate = 0.0;                   ///< Of the way to the approach; its own turns are standard rate turns.
     std::optional<double> altitudeTolerance; ///< Where altitudes are watched: the path keeps clear of the ground by it.
 };
+
+/// Final never meets the runway at more than this.
+constexpr double SteepestFinalDegrees = 65.0;
+
+/// By how far final is turned from the runway's course: -180 to 180, positive clockwise.
+double calcFinalOffset(const ApproachPath& path);
+
+/// The fix, brought round the threshold as far as final needs to meet the runway at the steepest angle.
+ChartPosition limitFinalFix(const ApproachPath& path);
+
+/// What the pilot must hear of a fix that had to be moved; empty when it stays.
+std::string finalWarning(const ApproachPath& path);
 
 /// From where it is flown.
 struct ApproachStart {

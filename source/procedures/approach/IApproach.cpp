@@ -23,6 +23,7 @@ constexpr const char* NoElevationText = "Error: Unknown elevation.";
 IApproach::~IApproach() {
     host_->removeMessage(this);
     host_->removeMessage(&landing_);
+    host_->removeMessage(&fafPosition_);
 }
 
 bool IApproach::setUp(const AppRunway& runway, const FinalApproachFix& fix) {
@@ -124,12 +125,10 @@ void IApproach::warn() {
     };
     say(this, thresholdWarning(landing_));
     say(&landing_, accuracyWarning(landing_));
+    say(&fafPosition_, finalWarning(makePath()));
 }
 
-void IApproach::calculateCourseList(ChartPosition position, double altitude, double course) {
-    if (getLocationType() != ProcedureLocation::ChartElement || !runway_)
-        return;
-    warn();
+ApproachPath IApproach::makePath() const {
     ApproachPath path;
     path.threshold = landing_.threshold;
     path.thresholdElevation = landing_.thresholdElevation;
@@ -141,6 +140,15 @@ void IApproach::calculateCourseList(ChartPosition position, double altitude, dou
     path.turnRate = values_.targetTurnRate;
     if (values_.checkAltitude)
         path.altitudeTolerance = values_.altitudeTolerance;
+    return path;
+}
+
+void IApproach::calculateCourseList(ChartPosition position, double altitude, double course) {
+    if (getLocationType() != ProcedureLocation::ChartElement || !runway_)
+        return;
+    warn();
+    ApproachPath path = makePath();
+    path.faf = limitFinalFix(path);
     setCourseList(calculatePath(path, {position, altitude, course}));
 }
 

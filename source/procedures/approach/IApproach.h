@@ -20,7 +20,8 @@ class ProcedureKeys;
 ///
 /// It keeps what it took of the chart, so that the chart may go. One that lost its airport or its runway keeps what it
 /// knows for the saved plan, says so, and has no path. Warnings of its runway are messages that stay until the pilot
-/// takes them away or the approach is no more.
+/// takes them away or the approach is no more. A fix from which final would meet the runway too steeply is kept as it
+/// was saved, but not flown: the path begins where final is as steep as it may be, and the pilot hears of it.
 class IApproach : public IProcedure {
 public:
     ~IApproach() override;
@@ -60,6 +61,8 @@ private:
     bool describe(const AirportElement& airport, const AppRunway& runway);
     void lose(const std::string& message);
     void warn();
+    /// With a runway only. As saved: the fix isn't limited.
+    ApproachPath makePath() const;
 
     IProcedureHost* host_;
     std::optional<AppRunway> runway_;

@@ -23,7 +23,6 @@ constexpr double TurnRate = 3.0;
 constexpr double StandardTurnRate = 0.052359877566666664;
 constexpr double QuarterTurn = 1.5707963705062866;
 constexpr double TurnStepDegrees = 15.0;
-constexpr double SteepestFinalDegrees = 65.0;
 /// A fix within this angle of the extended centre line lies on it.
 constexpr double OnCentreLineDegrees = 0.5;
 /// Smaller differences of altitude need no leg of their own.
@@ -101,10 +100,9 @@ CourseList Circuit::line(const ChartPosition& from, double course, double metres
 }
 
 double Circuit::finalBearing() const {
-    const double bearing = calcBearing2(path_.faf, path_.threshold);
-    const double off = Angle180(bearing - path_.course);
+    const double off = calcFinalOffset(path_);
     if (std::fabs(off) <= SteepestFinalDegrees)
-        return bearing;
+        return calcBearing2(path_.faf, path_.threshold);
     return roundHalfAway(Angle0to360(path_.course + std::copysign(SteepestFinalDegrees, off)));
 }
 

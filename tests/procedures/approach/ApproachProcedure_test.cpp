@@ -1,15 +1,18 @@
 #include "chart/elements/AirportElement.h"
+#include "chart/geodesy/Angles.h"
 #include "chart/geodesy/EarthConstants.h"
 #include "chart/geodesy/GreatCircle.h"
 #include "chart/geodesy/LocalFrame.h"
 #include "chart/store/IChartElementSource.h"
 #include "core/ini/IniFile.h"
+#include "core/text/Numbers.h"
 #include "procedures/aircraft/profiles/Aircraft.h"
 #include "procedures/approach/ApproachProcedureFactory.h"
 #include "procedures/approach/FinalApproach.h"
 #include "procedures/approach/TrafficPatternApproach.h"
 #include "procedures/framework/IProcedureHost.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
@@ -281,6 +284,35 @@ TEST_F(Approaches, thatLostTheirRunwaySaySoAndStayInThePlan) {
     approach = factory.CreateFromIni(&host.charts, &document, "p", 0);
     EXPECT_TRUE(fly(*approach).empty());
     EXPECT_TRUE(host.says("Error: Unknown elevation."));
+}
+
+TEST_F(Approaches, meetTheRunwayAt65DegreesAtMostWhateverWasSaved) {
+    const ChartPosition threshold = runway().ends[0].threshold;
+    for (const int profile : {0, 2})
+        for (const auto& [off, flown] : {std::pair(0.0, 0.0), {-64.0, -64.0}, {80.0, 65.0}, {-175.0, -65.0}}) {
+            const std::string angle = std::to_string(std::abs(static_cast<int>(off)));
+            const double back = (90.0 + off + 180.0) / DegreesPerRadian;
+            const ChartPosition fix =
+                Vector3df642ChartPosition(threshold, {std::sin(back) * 8000.0, 0.0, std::cos(back) * 8000.0});
+            IniFile document, again;
+            make(0, profile)->insertInIni(&host.charts, &document, "p", 0);
+            document.set("p", "proc[0].fafPos.longitude", std::to_string(fix.longitude));
+            document.set("p", "proc[0].fafPos.latitude", std::to_string(fix.latitude));
+            auto approach = factory.CreateFromIni(&host.charts, &document, "p", 0);
+            const CourseList path = fly(*approach);
+            const auto end = std::find_if(path.begin(), path.end(), [&](const CourseElement& element) {
+                return calcDistance2(element.position, threshold) < 0.1;
+            });
+            ASSERT_NE(end, path.end());
+            EXPECT_NEAR(Angle180(calcBearing2(std::prev(end)->position, end->position) - 90.0), flown, 0.2) << off;
+            EXPECT_EQ(host.says("WARNING: Final at " + angle + " degrees to the runway\nwas turned to 65"),
+                      off != flown)
+                << off;
+            approach->insertInIni(&host.charts, &again, "p", 0);
+            EXPECT_NEAR(toDouble(again.get("p", "proc[0].fafPos.longitude")), fix.longitude, 1e-6);
+            approach.reset();
+            EXPECT_TRUE(host.messages.empty());
+        }
 }
 
 TEST_F(Approaches, believeNoDocument) {
