@@ -87,9 +87,10 @@ std::string DestinationSearch::distanceText(const std::optional<ChartPosition>& 
            "\nBearing [°]: " + toText(roundHalfAway(bearing));
 }
 
-std::string DestinationSearch::hintText(const std::string& text) {
+std::string DestinationSearch::hintText(const std::string& text, bool offersNearest) {
     if (text.empty())
-        return "Type an identifier or a name, or press \"Recent\" or \"Nrst\".";
+        return std::string("Type an identifier or a name, or press \"Recent\"") +
+               (offersNearest ? " or \"Nrst\"." : ".");
     if (text == RecentText)
         return "No destination was chosen so far.";
     if (text == NearestText)

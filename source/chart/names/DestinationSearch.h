@@ -54,8 +54,8 @@ public:
     /// "Distance [NM]: " and "Bearing [°]: ", "n/A" without both positions.
     static std::string distanceText(const std::optional<ChartPosition>& own,
                                     const std::optional<ChartPosition>& destination);
-    /// What to do about an empty list, for what was typed.
-    static std::string hintText(const std::string& text);
+    /// What to do about an empty list, for what was typed. `offersNearest`: there is a button for the nearest airports.
+    static std::string hintText(const std::string& text, bool offersNearest);
 
 private:
     std::vector<int> nearestFirst(std::list<int> ids, const ChartPosition& own);

@@ -13,6 +13,7 @@
 #include "gui/windows/CMBox.h"
 #include "gui/windows/Help.h"
 #include "gui/windows/LayoutDocuments.h"
+#include "gui/windows/ListRows.h"
 #include "gui/windows/WindowTools.h"
 
 #include <algorithm>
@@ -143,12 +144,14 @@ void PanelSetupScreen::tell(const wchar_t* text) const {
 
 void PanelSetupScreen::listFactories() {
     const auto& factories = context_->getPanelManager()->getPanelFactories();
+    std::vector<std::string> names;
     for (size_t i = 0; i < factories.size(); ++i) {
         if (!factories[i])
             continue;
         factoryRows_.push_back(static_cast<int>(i));
-        available_->addItem(decodeUtf8(factories[i]->getName()).c_str());
+        names.push_back(factories[i]->getName());
     }
+    fillList(available_, *context_->getSkin(), decodeRows(names));
 }
 
 void PanelSetupScreen::refresh() {
@@ -167,9 +170,7 @@ void PanelSetupScreen::refreshPanels() {
         titles.push_back(arrangement_.getTitle(panel));
     if (titles != panelTitles_) {
         panelTitles_ = titles;
-        actual_->clear();
-        for (const std::string& title : titles)
-            actual_->addItem(decodeUtf8(title).c_str());
+        fillList(actual_, *context_->getSkin(), decodeRows(titles));
     }
     const auto chosen = std::find(panelRows_.begin(), panelRows_.end(), arrangement_.getChosen());
     const int row = chosen == panelRows_.end() ? -1 : static_cast<int>(chosen - panelRows_.begin());

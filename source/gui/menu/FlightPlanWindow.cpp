@@ -10,6 +10,7 @@
 #include "gui/skin/Skin.h"
 #include "gui/windows/AskYesNo.h"
 #include "gui/windows/Help.h"
+#include "gui/windows/ListRows.h"
 #include "gui/windows/WindowTools.h"
 #include "procedures/ProcedureManager.h"
 #include "procedures/plan/PlanFigures.h"
@@ -18,6 +19,18 @@ namespace skyvane {
 namespace {
 
 constexpr const char* helpFile = "FlightPlan.hti";
+constexpr const char* upStyle = "planUpRow";
+constexpr const char* downStyle = "procStdRow";
+
+/// The arrow up as the one down: of the skin's two one is blue, which would say that it does something else.
+void setArrowStyles(Skin& skin) {
+    const ButtonStyle *up = skin.getButtonStyle("procRow"), *down = skin.getButtonStyle(downStyle);
+    if (!up || !down)
+        return;
+    ButtonStyle style = *down;
+    style.image = up->image;
+    skin.addButtonStyle(upStyle, style);
+}
 
 } // namespace
 
@@ -25,8 +38,9 @@ FlightPlanWindow::FlightPlanWindow(Context* context, std::wstring& speed)
     : MenuWindow(context, flightPlanLandscapeLayout, flightPlanPortraitLayout),
       procedures_(context->getProcedureManager()), speed_(speed) {
     pause_.emplace(*context->getPanelManager());
-    Skin::setButtonStyle(element("bup"), "procRow");
-    Skin::setButtonStyle(element("bdown"), "procStdRow");
+    setArrowStyles(*context->getSkin());
+    Skin::setButtonStyle(element("bup"), upStyle);
+    Skin::setButtonStyle(element("bdown"), downStyle);
     Skin::setButtonStyle(element("bdelete"), "redNormal");
     element("espeed")->setText(speed_.c_str());
     prepareHelpButton(context, element("bhelp"), helpFile);
@@ -47,11 +61,11 @@ void FlightPlanWindow::OnProcedureChanged() {
 
 void FlightPlanWindow::updateProcedureListBox() {
     const bool metric = context_->getPanelManager()->isMetric();
-    list()->clear();
-    int index = 0;
+    std::vector<std::string> rows;
     for (const auto& procedure : procedures_->getProcedures())
-        list()->addItem(decodeUtf8(planLine(index++, *procedure, metric)).c_str());
-    if (index > 0)
+        rows.push_back(planLine(static_cast<int>(rows.size()), *procedure, metric));
+    fillList(list(), *context_->getSkin(), decodeRows(rows));
+    if (!rows.empty())
         list()->setSelected(procedures_->getCurrentProcedureIndex());
     enableButtons();
     updateProcInfos();

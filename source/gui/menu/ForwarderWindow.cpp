@@ -4,8 +4,10 @@
 #include "core/text/Utf8.h"
 #include "gui/layoutmath/ShortText.h"
 #include "gui/menu/MenuLayouts.h"
+#include "gui/skin/Skin.h"
 #include "gui/windows/AskYesNo.h"
 #include "gui/windows/Help.h"
+#include "gui/windows/ListRows.h"
 #include "gui/windows/WindowTools.h"
 #include "sensors/SensorManager.h"
 
@@ -29,13 +31,15 @@ std::wstring shortName(const irr::gui::IGUIListBox& list, irr::gui::IGUISkin* sk
 ForwarderWindow::ForwarderWindow(Context* context)
     : MenuWindow(context, forwardersLandscapeLayout, forwardersPortraitLayout) {
     SensorManager* sensors = context->getSensorManager();
+    std::vector<std::string> methods;
     for (int i = 0; i < sensors->getForwarderFactoryCount(); ++i) {
         ISensorForwarderFactory* factory = sensors->getForwarderFactory(i);
         if (!factory)
             continue;
         factories_.push_back(i);
-        list("lmethods")->addItem(decodeUtf8(factory->getName()).c_str());
+        methods.push_back(factory->getName());
     }
+    fillList(list("lmethods"), *context->getSkin(), decodeRows(methods));
     if (!factories_.empty())
         list("lmethods")->setSelected(0);
     prepareHelpButton(context, element("bhelp"), helpFile);

@@ -8,6 +8,7 @@
 #include "gui/sensors/BluetoothDialogs.h"
 #include "gui/skin/Skin.h"
 #include "gui/windows/LayoutDocuments.h"
+#include "gui/windows/ListRows.h"
 #include "gui/windows/WindowTools.h"
 
 extern "C" const char bluetoothDeviceLayout[];
@@ -80,9 +81,10 @@ void BluetoothChoice::accept() {
 }
 
 void BluetoothChoice::list() {
-    listBox()->clear();
+    std::vector<std::wstring> rows;
     for (const BluetoothDevice& device : devices_)
-        listBox()->addItem(bluetoothLabel(device).c_str());
+        rows.push_back(bluetoothLabel(device));
+    fillList(listBox(), *context_->getSkin(), rows);
     listBox()->setSelected(devices_.empty() ? -1 : 0);
 }
 

@@ -7,6 +7,7 @@
 #include "gui/skin/Skin.h"
 #include "gui/windows/CMBox.h"
 #include "gui/windows/LayoutDocuments.h"
+#include "gui/windows/ListRows.h"
 #include "gui/windows/WindowTools.h"
 
 namespace skyvane {
@@ -57,10 +58,11 @@ std::optional<DataPaths> DataLocationDialog::run(IFrameRunner& frames, const std
 
 void DataLocationDialog::updateUsableDirs(const std::list<MountPoint>& folders) {
     folders_.assign(folders.begin(), folders.end());
+    std::vector<std::string> names;
+    for (const MountPoint& folder : folders_)
+        names.push_back(folder.name);
     for (const Choice& choice : choices_) {
-        choice.box->clear();
-        for (const MountPoint& folder : folders_)
-            choice.box->addItem(decodeUtf8(folder.name).c_str());
+        fillChoice(choice.box, *environment_->getSkin(), decodeRows(names));
         choice.box->setSelected(folders_.empty() ? -1 : 0);
         showFreeSpace(choice);
     }

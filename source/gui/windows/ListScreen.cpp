@@ -7,6 +7,7 @@
 #include "gui/skin/Skin.h"
 #include "gui/windows/Help.h"
 #include "gui/windows/LayoutDocuments.h"
+#include "gui/windows/ListRows.h"
 #include "gui/windows/WindowTools.h"
 
 namespace skyvane {
@@ -41,9 +42,7 @@ void ListScreen::run() {
 }
 
 void ListScreen::refresh(int selected) {
-    list()->clear();
-    for (const std::string& name : names())
-        list()->addItem(decodeUtf8(name).c_str());
+    fillList(list(), *context_.getSkin(), decodeRows(names()));
     list()->setSelected(selected);
     enableButtons();
 }

@@ -7,8 +7,6 @@
 #include "gui/windows/NumberEditBox.h"
 #include "gui/windows/WindowTools.h"
 #include "procedures/approach/IApproach.h"
-#include "procedures/dialogs/GeneralProcedureScreen.h"
-#include "procedures/dialogs/PreviewPane.h"
 #include "procedures/dialogs/ProcedureDocuments.h"
 #include "procedures/framework/FlightReadings.h"
 #include "procedures/preview/PathFigures.h"
@@ -32,8 +30,9 @@ bool isChangeOf(const irr::SEvent& event, const irr::gui::IGUIElement* box) {
 } // namespace
 
 ApproachScreen::ApproachScreen(Context& context, ApproachProcedureFactory& factory, const AirportElement& airport)
-    : ProcedureScreen(context, {approachLandscapeLayout, approachPortraitLayout, "ApproachProcedure.hti"}),
-      factory_(factory), preview_(context) {
+    : CourseScreen(context, {approachLandscapeLayout, approachPortraitLayout, "ApproachProcedure.hti"},
+                   factory.getGeneralValues()),
+      factory_(factory) {
     const AppRunway& runway = factory.getRunway();
     landing_ = describeLandingRunway(airport, runway.runwayIndex, runway.primary).value_or(LandingRunway());
     showText(element("ttitle"),
@@ -44,8 +43,6 @@ ApproachScreen::ApproachScreen(Context& context, ApproachProcedureFactory& facto
     profiles->setSelected(static_cast<int>(factory.getSelectedProfile()));
     addNumberBoxes();
     showWarnings();
-    PreviewPane::add(context, window(), gui().getSpecialRectangle("spreview"),
-                     [this](const irr::core::rect<int>& rect) { preview_.paint(rect); });
     refresh();
 }
 
@@ -67,7 +64,7 @@ void ApproachScreen::showWarnings() {
     colorText(element("twarning"), WarningColor);
 }
 
-void ApproachScreen::onEvent(const irr::SEvent& event) {
+bool ApproachScreen::onEntry(const irr::SEvent& event) {
     auto* profiles = gui().get<irr::gui::IGUIListBox>("lprofiles");
     if (isEntry(event) && event.GUIEvent.Caller == profiles && profiles->getSelected() >= 0)
         factory_.selectProfile(static_cast<size_t>(profiles->getSelected()));
@@ -75,12 +72,9 @@ void ApproachScreen::onEvent(const irr::SEvent& event) {
         factory_.getValues().setFinalLength(roundHalfAway(final_->getValue()));
     else if (isChangeOf(event, altitude_))
         factory_.getValues().setFafAltitude(roundHalfAway(altitude_->getValue()));
-    else if (isClickOf(event, element("bgeneral"))) {
-        GeneralProcedureScreen(context_, factory_.getGeneralValues()).run();
-        takeGlass();
-    } else
-        return;
-    refresh();
+    else
+        return false;
+    return true;
 }
 
 void ApproachScreen::refresh() {
@@ -103,7 +97,7 @@ void ApproachScreen::showPath() {
     CoursePreview::Scene scene;
     const std::unique_ptr<IProcedure> made = factory_.Create();
     if (!made)
-        return preview_.show({});
+        return preview().show({});
     const auto& approach = static_cast<const IApproach&>(*made);
     const FlightReadings readings = readFlight(*context_.getSensorManager());
     if (readings.isPlaced())
@@ -114,7 +108,7 @@ void ApproachScreen::showPath() {
     scene.fixes = {approach.getFafPosition()};
     scene.guides = {{landing_.threshold, landing_.farThreshold, RunwayWidth, runwayColor, true}};
     scene.seen = {landing_.threshold, landing_.farThreshold};
-    preview_.show(std::move(scene));
+    preview().show(std::move(scene));
 }
 
 } // namespace skyvane

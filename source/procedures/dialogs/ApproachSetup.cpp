@@ -1,16 +1,11 @@
 #include "procedures/dialogs/ApproachSetup.h"
 
 #include "chart/elements/AirportElement.h"
-#include "chart/store/IChartElementSource.h"
-#include "core/Context.h"
 #include "core/text/Utf8.h"
 #include "gui/windows/Questions.h"
 #include "procedures/dialogs/ApproachScreen.h"
 
 namespace skyvane {
-
-ApproachSetup::ApproachSetup(Context& context)
-    : ApproachProcedureFactory(&context), context_(context), painter_(context) {}
 
 bool ApproachSetup::setup(IndicatedProcedure& procedure, IChartElement* element) {
     const std::string trouble = choose(procedure, element);
@@ -23,16 +18,15 @@ bool ApproachSetup::setup(IndicatedProcedure& procedure, IChartElement* element)
 }
 
 void ApproachSetup::renderPreview(IndicatedProcedure* procedure, irr::core::rect<int> rect) {
-    painter_.drawElement(procedure->chartIndex, rect);
-    IChartElementSource* charts = context_.getCharts();
-    const IChartElement* element = charts ? charts->getChartElement(procedure->chartIndex) : nullptr;
+    preview_.drawElement(procedure->chartIndex, rect);
+    const IChartElement* element = elementOf(*procedure);
     const std::optional<AppRunway> runway = runwayOfLine(*procedure, element);
     if (!runway)
         return;
     const auto& airport = *static_cast<const AirportElement*>(element);
     if (const std::optional<RunwayArrow> arrow = pointToRunway(airport, *runway, rect))
-        painter_.drawArrow(*arrow, rect);
-    painter_.drawAircraft(sketchFrame(airport, rect));
+        preview_.drawArrow(*arrow, rect);
+    preview_.drawAircraft(sketchFrame(airport, rect));
 }
 
 } // namespace skyvane

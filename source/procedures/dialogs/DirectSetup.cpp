@@ -2,8 +2,6 @@
 
 #include "chart/elements/AirportElement.h"
 #include "chart/geodesy/GreatCircle.h"
-#include "chart/store/IChartElementSource.h"
-#include "core/Context.h"
 #include "procedures/framework/FlightReadings.h"
 
 #include <algorithm>
@@ -27,19 +25,16 @@ PreviewFrame frameOf(const IChartElement& element, const std::optional<ChartPosi
 
 } // namespace
 
-DirectSetup::DirectSetup(Context& context) : DirectProcedureFactory(&context), context_(context), painter_(context) {}
-
 void DirectSetup::renderPreview(IndicatedProcedure* procedure, irr::core::rect<int> rect) {
-    painter_.drawElement(procedure->chartIndex, rect);
-    IChartElementSource* charts = context_.getCharts();
-    const IChartElement* element = charts ? charts->getChartElement(procedure->chartIndex) : nullptr;
+    preview_.drawElement(procedure->chartIndex, rect);
+    const IChartElement* element = elementOf(*procedure);
     if (!element)
         return;
     const std::optional<ChartPosition> aircraft = readFlight(*context_.getSensorManager()).position;
     const PreviewFrame frame = frameOf(*element, aircraft, rect);
     if (aircraft)
-        painter_.drawLine(placeAircraft(frame, *aircraft, 0).place, rect.getCenter(), lineWidth, courseColor);
-    painter_.drawAircraft(frame);
+        preview_.drawLine(placeAircraft(frame, *aircraft, 0).place, rect.getCenter(), lineWidth, courseColor);
+    preview_.drawAircraft(frame);
 }
 
 } // namespace skyvane

@@ -4,10 +4,7 @@
 #include "core/Context.h"
 #include "core/text/Numbers.h"
 #include "core/text/Utf8.h"
-#include "gui/windows/Questions.h"
 #include "gui/windows/WindowTools.h"
-#include "procedures/dialogs/GeneralProcedureScreen.h"
-#include "procedures/dialogs/PreviewPane.h"
 #include "procedures/dialogs/ProcedureDocuments.h"
 #include "procedures/framework/FlightReadings.h"
 
@@ -29,11 +26,10 @@ bool isWithin(const std::optional<double>& value, double least, double most) {
 } // namespace
 
 HoldingScreen::HoldingScreen(Context& context, HoldingProcedureFactory& factory, const std::string& place)
-    : ProcedureScreen(context, {holdingLandscapeLayout, holdingPortraitLayout, "Holdings.hti"}), factory_(factory),
-      preview_(context) {
+    : CourseScreen(context, {holdingLandscapeLayout, holdingPortraitLayout, "Holdings.hti"},
+                   factory.getGeneralValues()),
+      factory_(factory) {
     showText(element("ttitle"), (L"Holding at: " + decodeUtf8(place)).c_str());
-    PreviewPane::add(context, window(), gui().getSpecialRectangle("spreview"),
-                     [this](const irr::core::rect<int>& rect) { preview_.paint(rect); });
     fillIn();
     refresh();
 }
@@ -88,27 +84,11 @@ std::wstring HoldingScreen::takePlace() {
 void HoldingScreen::refresh() {
     showText(element("cright"), isChecked("cright") ? L"Right Turns" : L"Left Turns");
     if (!take().empty())
-        return preview_.show({});
+        return preview().show({});
     CoursePreview::Scene scene;
     scene.course = factory_.makePattern(0.0);
     scene.fixes = {factory_.getPosition()};
-    preview_.show(std::move(scene));
-}
-
-void HoldingScreen::onEvent(const irr::SEvent& event) {
-    if (isClickOf(event, element("bgeneral"))) {
-        GeneralProcedureScreen(context_, factory_.getGeneralValues()).run();
-        takeGlass();
-    } else if (!isEntry(event))
-        return;
-    refresh();
-}
-
-bool HoldingScreen::onNext() {
-    const std::wstring trouble = take();
-    if (!trouble.empty())
-        tellInBox(context_, trouble);
-    return trouble.empty();
+    preview().show(std::move(scene));
 }
 
 } // namespace skyvane

@@ -1,14 +1,9 @@
 #include "procedures/dialogs/HoldingSetup.h"
 
 #include "chart/elements/IChartElement.h"
-#include "chart/store/IChartElementSource.h"
-#include "core/Context.h"
 #include "procedures/dialogs/HoldingScreen.h"
 
 namespace skyvane {
-
-HoldingSetup::HoldingSetup(Context& context)
-    : HoldingProcedureFactory(&context), context_(context), preview_(context) {}
 
 bool HoldingSetup::setup(IndicatedProcedure& procedure, IChartElement* element) {
     prepare(procedure, element);
@@ -19,8 +14,7 @@ bool HoldingSetup::setup(IndicatedProcedure& procedure, IChartElement* element) 
 /// The usual pattern; its course follows the aircraft.
 void HoldingSetup::renderPreview(IndicatedProcedure* procedure, irr::core::rect<int> rect) {
     if (preview_.isDue(*procedure, true)) {
-        IChartElementSource* charts = context_.getCharts();
-        prepare(*procedure, charts ? charts->getChartElement(procedure->chartIndex) : nullptr);
+        prepare(*procedure, elementOf(*procedure));
         CoursePreview::Scene scene;
         scene.course = makePattern(0.0);
         scene.fixes = {getPosition()};

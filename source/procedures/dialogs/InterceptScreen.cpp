@@ -5,10 +5,9 @@
 #include "core/Context.h"
 #include "core/log/Logger.h"
 #include "core/text/Utf8.h"
-#include "gui/windows/Questions.h"
+#include "gui/skin/Skin.h"
+#include "gui/windows/ListRows.h"
 #include "gui/windows/WindowTools.h"
-#include "procedures/dialogs/GeneralProcedureScreen.h"
-#include "procedures/dialogs/PreviewPane.h"
 #include "procedures/dialogs/ProcedureDocuments.h"
 #include "procedures/framework/FlightReadings.h"
 
@@ -42,12 +41,12 @@ std::wstring troubleOf(InterceptProcedureFactory::Answer answer) {
 } // namespace
 
 InterceptScreen::InterceptScreen(Context& context, InterceptProcedureFactory& factory, const std::string& place)
-    : ProcedureScreen(context, {interceptLandscapeLayout, interceptPortraitLayout, "Intercept.hti", "back", "help",
-                                "next", "attPort", "compPort"}),
-      factory_(factory), preview_(context) {
+    : CourseScreen(context,
+                   {interceptLandscapeLayout, interceptPortraitLayout, "Intercept.hti", "back", "help", "next",
+                    "attPort", "compPort"},
+                   factory.getGeneralValues()),
+      factory_(factory) {
     showText(element("ttitle"), decodeUtf8(factory.getName() + ": " + place).c_str());
-    PreviewPane::add(context, window(), gui().getSpecialRectangle("spreview"),
-                     [this](const irr::core::rect<int>& rect) { preview_.paint(rect); });
     colorText(element("twarning"), WarningColor);
     fillAirways();
     refresh();
@@ -55,10 +54,12 @@ InterceptScreen::InterceptScreen(Context& context, InterceptProcedureFactory& fa
 
 void InterceptScreen::fillAirways() {
     auto* list = gui().get<irr::gui::IGUIListBox>("lbox");
+    std::vector<std::string> rows;
     for (const auto& [text, id] : factory_.findConnectedAirways()) {
-        list->addItem(decodeUtf8(text).c_str());
+        rows.push_back(text);
         airways_.push_back(id);
     }
+    fillList(list, *context_.getSkin(), decodeRows(rows));
     list->setSelected(airways_.empty() ? -1 : 0);
 }
 
@@ -98,23 +99,7 @@ void InterceptScreen::refresh() {
         }
     }
     showText(element("twarning"), factory_.isMetBeyond(scene.course) ? BeyondText : L"");
-    preview_.show(std::move(scene));
-}
-
-void InterceptScreen::onEvent(const irr::SEvent& event) {
-    if (isClickOf(event, element("bgeneral"))) {
-        GeneralProcedureScreen(context_, factory_.getGeneralValues()).run();
-        takeGlass();
-    } else if (!isEntry(event))
-        return;
-    refresh();
-}
-
-bool InterceptScreen::onNext() {
-    const std::wstring trouble = take();
-    if (!trouble.empty())
-        tellInBox(context_, trouble);
-    return trouble.empty();
+    preview().show(std::move(scene));
 }
 
 } // namespace skyvane

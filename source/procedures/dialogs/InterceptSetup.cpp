@@ -1,8 +1,6 @@
 #include "procedures/dialogs/InterceptSetup.h"
 
 #include "chart/elements/AirwayElement.h"
-#include "chart/store/IChartElementSource.h"
-#include "core/Context.h"
 #include "procedures/dialogs/InterceptScreen.h"
 
 namespace skyvane {
@@ -13,9 +11,6 @@ const irr::video::SColor airwayColor(0xff8fa6bd);
 
 } // namespace
 
-InterceptSetup::InterceptSetup(Context& context)
-    : InterceptProcedureFactory(&context), context_(context), preview_(context) {}
-
 bool InterceptSetup::setup(IndicatedProcedure& procedure, IChartElement* element) {
     prepare(procedure, element);
     return InterceptScreen(context_, *this, element ? element->getIndicatedLabel(true, false) : "").run();
@@ -23,12 +18,11 @@ bool InterceptSetup::setup(IndicatedProcedure& procedure, IChartElement* element
 
 void InterceptSetup::renderPreview(IndicatedProcedure* procedure, irr::core::rect<int> rect) {
     if (preview_.isDue(*procedure, false)) {
-        IChartElementSource* charts = context_.getCharts();
-        prepare(*procedure, charts ? charts->getChartElement(procedure->chartIndex) : nullptr);
+        prepare(*procedure, elementOf(*procedure));
         CoursePreview::Scene scene;
         scene.fixes = {getPosition()};
         for (const auto& [text, id] : findConnectedAirways()) {
-            const auto& airway = *static_cast<const AirwayElement*>(charts->getChartElement(id));
+            const auto& airway = *static_cast<const AirwayElement*>(context_.getCharts()->getChartElement(id));
             scene.guides.push_back({airway.start, airway.end, airwayWidth, airwayColor});
             scene.seen.insert(scene.seen.end(), {airway.start, airway.end});
         }

@@ -6,6 +6,8 @@
 #include "core/log/Logger.h"
 #include "core/text/Utf8.h"
 #include "displays/PanelManager.h"
+#include "gui/skin/Skin.h"
+#include "gui/windows/ListRows.h"
 #include "gui/windows/WindowTools.h"
 #include "procedures/ProcedureManager.h"
 #include "procedures/framework/FlightReadings.h"
@@ -16,7 +18,6 @@ namespace {
 
 constexpr const char* RecentFile = "data/recent";
 constexpr const char* NoChartsText = "No charts are installed.";
-constexpr int RowMargin = 12; ///< Of a text in a row, both sides.
 
 template <class Element>
 EngineRef<Element> held(Element* element) {
@@ -24,17 +25,7 @@ EngineRef<Element> held(Element* element) {
 }
 
 void fill(Context& context, irr::gui::IGUIListBox* list, const std::vector<std::string>& rows, int selected) {
-    list->clear();
-    const irr::gui::IGUISkin* skin = context.getIrrlichtDevice()->getGUIEnvironment()->getSkin();
-    const int scrollBar = skin->getSize(irr::gui::EGDS_SCROLLBAR_SIZE);
-    const int room =
-        list->getAbsolutePosition().getWidth() -
-        (static_cast<int>(rows.size()) * context.getRecommendedButtonHeight() > list->getAbsolutePosition().getHeight()
-             ? scrollBar
-             : 0) -
-        RowMargin;
-    for (const std::string& row : rows)
-        list->addItem(fitText(skin->getFont(), decodeUtf8(row), room).c_str());
+    fillList(list, *context.getSkin(), decodeRows(rows));
     list->setSelected(selected);
 }
 
@@ -143,9 +134,12 @@ void SearchBoxHandler::showHint() {
         return;
     const bool isEmpty = ids_.empty();
     const bool hasCharts = context_->getPanelManager()->getChart() != nullptr;
-    if (isEmpty)
-        showText(held_.hint.get(),
-                 decodeUtf8(hasCharts ? DestinationSearch::hintText(encodeUtf8(typedText())) : NoChartsText).c_str());
+    if (isEmpty) {
+        const bool offersNearest = held_.nearest.get() != nullptr;
+        const std::string text =
+            hasCharts ? DestinationSearch::hintText(encodeUtf8(typedText()), offersNearest) : NoChartsText;
+        showText(held_.hint.get(), decodeUtf8(text).c_str());
+    }
     held_.hint->setVisible(isEmpty);
 }
 

@@ -8,8 +8,10 @@
 #include "gui/skin/Skin.h"
 #include "gui/windows/Help.h"
 #include "gui/windows/LayoutDocuments.h"
+#include "gui/windows/ListRows.h"
 #include "gui/windows/Questions.h"
 #include "gui/windows/WindowTools.h"
+#include "sensors/SensorConfig.h"
 #include "sensors/SensorManager.h"
 #include "sensors/setup/Calibration.h"
 
@@ -91,18 +93,19 @@ void SensorSetup::build() {
     prepareHelpButton(context_, gui_->getElement("bhelp"), helpPage);
     gui_->getElement("bcalib")->setText(calibrationLabel(*context_).c_str());
     irr::s32 used = 0;
+    std::vector<std::string> kinds, types;
     for (const int factory : selection_->getFactories()) {
-        const irr::u32 row =
-            get<IGUIListBox>("lsens")->addItem(decodeUtf8(selection_->getFactoryName(factory)).c_str());
         if (selection_->getFactory(selection_->getUsed()) == factory)
-            used = static_cast<irr::s32>(row);
+            used = static_cast<irr::s32>(kinds.size());
+        kinds.push_back(selection_->getFactoryName(factory));
     }
+    fillList(get<IGUIListBox>("lsens"), *context_->getSkin(), decodeRows(kinds));
     reselect(get<IGUIListBox>("lsens"), used);
-    for (int type = 0; type < ISensorData::TypeCount; ++type) {
-        ISensorDataFactory* factory =
-            context_->getSensorManager()->getSensorDataFactory(static_cast<ISensorData::Type>(type));
-        get<IGUIListBox>("lsensdata")->addItem(decodeUtf8(factory ? factory->getName() : "?").c_str());
+    for (const ISensorData::Type type : allDataTypes()) {
+        ISensorDataFactory* factory = context_->getSensorManager()->getSensorDataFactory(type);
+        types.push_back(factory ? factory->getName() : "?");
     }
+    fillList(get<IGUIListBox>("lsensdata"), *context_->getSkin(), decodeRows(types));
     reselect(get<IGUIListBox>("lsensdata"), 0);
 }
 

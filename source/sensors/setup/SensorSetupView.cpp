@@ -1,5 +1,7 @@
 #include "core/Context.h"
 #include "core/text/Utf8.h"
+#include "gui/skin/Skin.h"
+#include "gui/windows/ListRows.h"
 #include "gui/windows/WindowTools.h"
 #include "sensors/SensorManager.h"
 #include "sensors/setup/SensorSetup.h"
@@ -34,15 +36,14 @@ void SensorSetup::showSensors() {
     auto* list = get<IGUIListBox>("lacsens");
     auto* choice = get<IGUIComboBox>("cdefsens");
     const irr::s32 chosen = list->getSelected();
-    list->clear();
-    choice->clear();
-    choice->addItem(L"None");
+    std::vector<std::wstring> sensors, choices = {L"None"};
     for (int sensor = 1; sensor <= selection_->count(); ++sensor) {
-        const std::wstring name = std::to_wstring(sensor) + L": " + decodeUtf8(selection_->getName(sensor)) +
-                                  (selection_->isKnown(sensor) ? L"" : L" (not available)");
-        list->addItem(name.c_str());
-        choice->addItem(name.c_str());
+        sensors.push_back(std::to_wstring(sensor) + L": " + decodeUtf8(selection_->getName(sensor)) +
+                          (selection_->isKnown(sensor) ? L"" : L" (not available)"));
+        choices.push_back(sensors.back());
     }
+    fillList(list, *context_->getSkin(), sensors);
+    fillChoice(choice, *context_->getSkin(), choices);
     list->setSelected(std::min(std::max(chosen, 0), selection_->count() - 1));
 }
 

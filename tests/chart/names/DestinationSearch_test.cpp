@@ -129,9 +129,10 @@ TEST(DestinationSearch, distanceText) {
 }
 
 TEST(DestinationSearch, hintsAreForWhatWasAskedFor) {
-    EXPECT_NE(DestinationSearch::hintText("").find("Type"), std::string::npos);
-    EXPECT_EQ(DestinationSearch::hintText(DestinationSearch::NearestText), "No airport within 50 NM.");
-    EXPECT_NE(DestinationSearch::hintText(DestinationSearch::RecentText), DestinationSearch::hintText("x"));
+    EXPECT_NE(DestinationSearch::hintText("", true).find("\"Nrst\""), std::string::npos);
+    EXPECT_EQ(DestinationSearch::hintText("", false), "Type an identifier or a name, or press \"Recent\".");
+    EXPECT_EQ(DestinationSearch::hintText(DestinationSearch::NearestText, true), "No airport within 50 NM.");
+    EXPECT_NE(DestinationSearch::hintText(DestinationSearch::RecentText, true), DestinationSearch::hintText("x", true));
 }
 
 } // namespace

@@ -37,8 +37,7 @@ TEST_P(SensorWindows, ABluetoothDeviceIsSearchedForKindly) {
         script->then([] {});
     script->then([&] {
         picture("bluetooth-told");
-        if (told().find(L"Bluetooth") != std::wstring::npos)
-            EXPECT_EQ(told().substr(0, 5), L"Error");
+        EXPECT_TRUE(told().find(L"Bluetooth") == std::wstring::npos || told().substr(0, 5) == L"Error") << told();
         key(irr::KEY_RETURN);
     });
     script->then([&] { click(L"Cancel"); });
