@@ -8,6 +8,7 @@
 #include "gui/windows/GUI.h"
 #include "gui/windows/IniEditor.h"
 #include "gui/windows/InputDialog.h"
+#include "gui/windows/ListRows.h"
 #include "gui/windows/NumberEditBox.h"
 #include "gui/windows/ProgressDialog.h"
 #include "gui/windows/Questions.h"
@@ -365,6 +366,37 @@ TEST_P(DialogsTest, HostileLayoutsGiveWindowsThatCanBeUsed) {
         window->getParent()->remove();
     }
     EXPECT_EQ(0u, root->getChildren().size());
+}
+
+const wchar_t* textOf(const irr::gui::IGUIListBox* list, irr::u32 row) {
+    return list->getListItem(row);
+}
+const wchar_t* textOf(const irr::gui::IGUIComboBox* box, irr::u32 row) {
+    return box->getItem(row);
+}
+
+TEST_P(DialogsTest, RowsThatAreTooLongEndInDots) {
+    irr::gui::IGUISkin& skin = *environment->getSkin();
+    irr::gui::IGUIListBox* list = environment->addListBox({20, 20, 320, 220});
+    irr::gui::IGUIComboBox* box = environment->addComboBox({20, 240, 320, 300});
+    std::vector<std::wstring> rows = {L"Short", std::wstring(60, L'W'), L""};
+    const auto expectRows = [&](auto* element, int room) {
+        ASSERT_EQ(element->getItemCount(), rows.size());
+        EXPECT_STREQ(textOf(element, 0), L"Short");
+        const std::wstring shown = textOf(element, 1);
+        EXPECT_EQ(shown.substr(shown.size() - 4), L"W...");
+        EXPECT_LE(static_cast<int>(skin.getFont()->getDimension(shown.c_str()).Width), room);
+        EXPECT_GT(static_cast<int>(skin.getFont()->getDimension((shown + L"WW").c_str()).Width), room - 20);
+    };
+    fillList(list, skin, rows);
+    fillChoice(box, skin, rows);
+    expectRows(list, 300);
+    expectRows(box, 300 - skin.getSize(irr::gui::EGDS_SCROLLBAR_SIZE));
+    picture("rows");
+    rows.resize(20); // the bar takes its room
+    fillList(list, skin, rows);
+    expectRows(list, 300 - skin.getSize(irr::gui::EGDS_SCROLLBAR_SIZE));
+    EXPECT_EQ(list->getSelected(), -1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, DialogsTest, allScreens());
