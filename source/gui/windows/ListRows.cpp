@@ -21,8 +21,7 @@ void fillList(irr::gui::IGUIListBox* list, irr::gui::IGUISkin& skin, const std::
 }
 
 void fillChoice(irr::gui::IGUIComboBox* box, irr::gui::IGUISkin& skin, const std::vector<std::wstring>& rows) {
-    const int room =
-        box->getAbsolutePosition().getWidth() - skin.getSize(irr::gui::EGDS_SCROLLBAR_SIZE) - rowMargin;
+    const int room = box->getAbsolutePosition().getWidth() - skin.getSize(irr::gui::EGDS_SCROLLBAR_SIZE) - rowMargin;
     box->clear();
     for (const std::wstring& row : rows)
         box->addItem(fitText(skin.getFont(), row, room).c_str());
