@@ -44,6 +44,8 @@ public:
 
     /// Metres, at the aircraft; infinite without terrain there, or while nobody knows where it is.
     float getCurrentElevation() const;
+    /// False also where only the samples of a far coarser tile tell of it.
+    bool isCurrentElevationKnown() const { return !news_.lost && news_.isElevationKnown; }
 
     // The meshes lie around their positions: x east, y up from sea level, z north, in metres. They hold until the
     // panels are told to delete their nodes; null before the first.

@@ -34,17 +34,25 @@ TerrainMeshPair::Instance TerrainMeshPair::makeInstance(const std::vector<uint16
 TerrainMeshPair::TerrainMeshPair(const std::vector<uint16_t>& indices, size_t vertexCount, int gridSide)
     : active_(makeInstance(indices, vertexCount, gridSide)), buffer_(makeInstance(indices, vertexCount, gridSide)) {}
 
-void TerrainMeshPair::fill(const TerrainMesh& mesh, const irr::core::aabbox3df& box) {
-    irr::video::S3DVertex* vertex = buffer_.buffer->Vertices.pointer();
-    const size_t count = std::min<size_t>(mesh.vertices.size(), buffer_.buffer->Vertices.size());
+void TerrainMeshPair::copyVertices(const std::vector<TerrainVertex>& vertices, irr::scene::SMeshBuffer& buffer) {
+    irr::video::S3DVertex* vertex = buffer.Vertices.pointer();
+    const size_t count = std::min<size_t>(vertices.size(), buffer.Vertices.size());
     for (size_t i = 0; i < count; ++i, ++vertex) {
-        vertex->Pos = mesh.vertices[i].position;
-        vertex->Normal = mesh.vertices[i].normal;
-        vertex->Color = mesh.vertices[i].isKnown ? knownColor : unknownColor;
+        vertex->Pos = vertices[i].position;
+        vertex->Normal = vertices[i].normal;
+        vertex->Color = vertices[i].isKnown ? knownColor : unknownColor;
     }
+    buffer.setDirty(irr::scene::EBT_VERTEX);
+}
+
+TerrainVertex TerrainMeshPair::toTerrainVertex(const irr::video::S3DVertex& vertex) {
+    return {vertex.Pos, vertex.Normal, vertex.Color == knownColor};
+}
+
+void TerrainMeshPair::fill(const TerrainMesh& mesh, const irr::core::aabbox3df& box) {
+    copyVertices(mesh.vertices, *buffer_.buffer);
     buffer_.buffer->BoundingBox = box;
     buffer_.mesh->BoundingBox = box;
-    buffer_.buffer->setDirty(irr::scene::EBT_VERTEX);
 }
 
 void TerrainMeshPair::swap() {

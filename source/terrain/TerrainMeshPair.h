@@ -21,6 +21,10 @@ public:
     void fill(const TerrainMesh& mesh, const irr::core::aabbox3df& box);
     /// The filled one is drawn from now on. Whoever draws the other has let go of it.
     void swap();
+    /// Between our vertices and the engine's, whose colour tells whether the height is known. The buffer has room.
+    static void copyVertices(const std::vector<TerrainVertex>& vertices, irr::scene::SMeshBuffer& buffer);
+    static TerrainVertex toTerrainVertex(const irr::video::S3DVertex& vertex);
+
     irr::scene::IMesh* getActive() const { return active_.mesh.get(); }
 
 private:

@@ -69,7 +69,8 @@ SegmentSources OneSegmentPanel::gatherSources() const {
     sources.metric = context_->getPanelManager()->isMetric();
     if (const TerrainManager* terrain = context_->getPanelManager()->getTerrainManager()) {
         const float elevation = terrain->getCurrentElevation();
-        sources.groundElevationMetres = std::isfinite(elevation) ? elevation : 0.0;
+        const bool known = terrain->isCurrentElevationKnown() && std::isfinite(elevation);
+        sources.groundElevationMetres = known ? elevation : 0.0;
     }
     if (const IProcedure* procedure = context_->getCurrentProcedure()) {
         sources.bearingDegrees = procedure->getBearing();

@@ -16,8 +16,6 @@
 namespace skyvane {
 namespace {
 
-/// Of the near mesh; the quads of the wide one that reach over it end within the rest.
-constexpr float coveredHalfSide = 9400.0f;
 constexpr float coveredDepth = 3000.0f;
 constexpr double lightRadiansPerSecond = 0.1570796327;
 
@@ -40,11 +38,13 @@ void TerrainView::takeNearMesh() {
     const TerrainManager* terrain = getManager();
     near_ = EngineRef<irr::scene::IMesh>::share(terrain ? terrain->getActiveMesh() : nullptr);
     ++generation_;
+    isApronWorn_ = true;
 }
 
 void TerrainView::takeWideMesh() {
     const TerrainManager* terrain = getManager();
     wide_ = EngineRef<irr::scene::IMesh>::share(terrain ? terrain->getActiveWideMesh() : nullptr);
+    isApronWorn_ = true;
 }
 
 /// After a jump of the position the mesh is that of another place until the next one comes.
@@ -88,11 +88,14 @@ void TerrainView::setHeightLimits(const TerrainManager& terrain, double heightMe
     callback_->setLightDirection({static_cast<float>(std::cos(lap)), -1.0f, static_cast<float>(std::sin(lap))});
 }
 
-void TerrainView::renderNode(SceneStage& stage, irr::scene::IMesh* mesh, const ChartPosition& origin,
+irr::core::vector3df TerrainView::findNearOnWide(const TerrainManager& terrain) const {
+    return ChartPosition2Vector3df(terrain.getActiveWideMeshPosition(), terrain.getActiveMeshPosition(), 0.0);
+}
+
+void TerrainView::renderNode(SceneStage& stage, const irr::scene::IMeshBuffer* mesh, const ChartPosition& origin,
                              const ChartPosition& centre) {
     stage.setPlace(ChartPosition2Vector3df64(origin, centre, 0.0));
-    for (irr::u32 i = 0; i < mesh->getMeshBufferCount(); ++i)
-        stage.draw(mesh->getMeshBuffer(i), material_);
+    stage.draw(mesh, material_);
 }
 
 /// The near mesh first: it hides most of the wide one, which needn't be coloured there.
@@ -105,18 +108,21 @@ void TerrainView::draw(SceneStage& stage, const ChartPosition& origin, double he
     if (!nearShown && !wideShown)
         return;
     setHeightLimits(*terrain, heightMetres, nearShown, wideShown);
-    if (nearShown) {
-        callback_->setCovered(0.0f, 0.0f, 0.0f, 0.0f);
-        renderNode(stage, near_.get(), origin, terrain->getActiveMeshPosition());
-    }
+    callback_->setCovered(0.0f, 0.0f, 0.0f, 0.0f);
+    if (nearShown)
+        renderNode(stage, near_->getMeshBuffer(0), origin, terrain->getActiveMeshPosition());
     if (!wideShown)
         return;
+    const irr::scene::IMeshBuffer* wide = wide_->getMeshBuffer(0);
     if (nearShown) {
-        const auto middle =
-            ChartPosition2Vector3df(terrain->getActiveWideMeshPosition(), terrain->getActiveMeshPosition(), 0.0);
-        callback_->setCovered(middle.X, middle.Z, coveredHalfSide, coveredDepth);
+        const irr::core::vector3df middle = findNearOnWide(*terrain);
+        if (isApronWorn_)
+            apron_.fill(*near_->getMeshBuffer(0), terrain->getMeshSampleAmount(), *wide, middle);
+        isApronWorn_ = false;
+        renderNode(stage, apron_.getBuffer(), origin, terrain->getActiveMeshPosition());
+        callback_->setCovered(middle.X, middle.Z, static_cast<float>(MeshApron::CoveredHalfSide), coveredDepth);
     }
-    renderNode(stage, wide_.get(), origin, terrain->getActiveWideMeshPosition());
+    renderNode(stage, wide, origin, terrain->getActiveWideMeshPosition());
 }
 
 } // namespace skyvane

@@ -3,6 +3,7 @@
 #include "chart/geodesy/ChartPosition.h"
 #include "core/engine/EngineRef.h"
 #include "displays/instruments/PanelTexture.h"
+#include "displays/vision/ApronView.h"
 #include "terrain/mesh/NearMeshHeights.h"
 
 #include <irrlicht.h>
@@ -14,8 +15,9 @@ class OGLES2TerrainCB;
 class SceneStage;
 class TerrainManager;
 
-/// The ground around the aircraft: the near mesh, and the wide one beyond it, which sinks out of sight where the near
-/// one covers it. Colours warn by how far the aircraft is above. Main thread only.
+/// The ground around the aircraft: the near mesh, the wide one beyond it, and an apron that leads from one to the other.
+/// The wide one sinks out of sight where these cover it. Colours warn by how far the aircraft is above. Main thread
+/// only.
 class TerrainView {
 public:
     explicit TerrainView(Context* context);
@@ -40,7 +42,9 @@ private:
     TerrainManager* getManager() const;
     bool isNearShown(const TerrainManager& terrain, const ChartPosition& aircraft) const;
     void setHeightLimits(const TerrainManager& terrain, double heightMetres, bool nearShown, bool wideShown);
-    void renderNode(SceneStage& stage, irr::scene::IMesh* mesh, const ChartPosition& origin,
+    /// Where the near mesh's centre lies on the wide one.
+    irr::core::vector3df findNearOnWide(const TerrainManager& terrain) const;
+    void renderNode(SceneStage& stage, const irr::scene::IMeshBuffer* mesh, const ChartPosition& origin,
                     const ChartPosition& centre);
 
     Context* context_;
@@ -48,6 +52,8 @@ private:
     PanelTexture gradient_;
     irr::video::SMaterial material_;
     EngineRef<irr::scene::IMesh> near_, wide_;
+    ApronView apron_;
+    bool isApronWorn_ = true;
     unsigned generation_ = 0;
 };
 

@@ -144,8 +144,9 @@ VisionReadings readVision(Context& context) {
     readings.headingDegrees = heading.value;
     readings.trust.heading = heading.flag;
     const TerrainManager* terrain = context.getPanelManager()->getTerrainManager();
-    readings.groundMetres =
-        terrain ? static_cast<double>(terrain->getCurrentElevation()) : std::numeric_limits<double>::infinity();
+    readings.groundMetres = terrain && terrain->isCurrentElevationKnown()
+                                ? static_cast<double>(terrain->getCurrentElevation())
+                                : std::numeric_limits<double>::infinity();
     return readings;
 }
 

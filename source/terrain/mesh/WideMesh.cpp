@@ -62,6 +62,24 @@ void WideMesh::build(TerrainSampler& terrain, const ChartPosition& centre, Terra
         mesh.vertices[static_cast<size_t>(j)].position.Y = mesh.minimum - (mesh.maximum - mesh.minimum);
 }
 
+WideMesh::Spot WideMesh::locate(double x, double z) {
+    static const double logOfGrowth = std::log(RingGrowth);
+    const double rings = std::log(std::max(std::hypot(x, z), 1.0) / InnerRadiusMetres) / logOfGrowth;
+    const double out = std::clamp(rings, 1.0, static_cast<double>(Rings - 1));
+    double around = std::atan2(x, z) / AngleStep;
+    around += around < 0.0 ? VerticesPerRing : 0.0;
+    const int ring = std::min(static_cast<int>(out), Rings - 2);
+    const int column = std::min(static_cast<int>(around), VerticesPerRing - 1);
+    const double f = out - ring, g = around - column;
+    const int next = (column + 1) % VerticesPerRing;
+    const int inner = ring * VerticesPerRing + column, innerNext = ring * VerticesPerRing + next;
+    const int outer = inner + VerticesPerRing, outerNext = innerNext + VerticesPerRing;
+    const auto weight = [](double value) { return static_cast<float>(value); };
+    if (f >= g)
+        return {{inner, outer, outerNext}, {weight(1.0 - f), weight(f - g), weight(g)}};
+    return {{inner, outerNext, innerNext}, {weight(1.0 - g), weight(f), weight(g - f)}};
+}
+
 std::vector<uint16_t> WideMesh::makeIndices() {
     std::vector<uint16_t> indices;
     indices.reserve(6u * (Rings - 1) * VerticesPerRing);

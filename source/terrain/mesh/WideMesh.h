@@ -2,6 +2,8 @@
 
 #include "terrain/mesh/TerrainMesh.h"
 
+#include <array>
+
 namespace skyvane {
 
 class TerrainSampler;
@@ -23,6 +25,15 @@ public:
 
     /// Triangles, clockwise seen from above.
     static std::vector<uint16_t> makeIndices();
+
+    /// The corners of the triangle at a place and how much each counts there.
+    struct Spot {
+        std::array<int, 3> vertices;
+        std::array<float, 3> weights;
+    };
+    /// For metres from the centre; within 2 m of the triangles as they are drawn. What is nearer than the ring beside
+    /// the skirt, or beyond the outermost one, is brought onto it.
+    static Spot locate(double x, double z);
 
 private:
     static double ringRadius(int ring);

@@ -3,7 +3,6 @@
 #include "chart/geodesy/LocalFrame.h"
 #include "core/threads/Threads.h"
 #include "core/time/Time.h"
-#include "terrain/tree/TerrainSampler.h"
 
 #include <algorithm>
 #include <chrono>
@@ -119,31 +118,41 @@ void TerrainPager::handOver(PointCalls& points, ImageCalls& images) {
 }
 
 void TerrainPager::watchAircraft(const Aircraft& aircraft, bool nearWanted, bool wideWanted) {
-    const float elevation = store_.getRoot()->getHeight(aircraft.position, ElevationDensity, true, false);
+    const TerrainSampler::Height ground = TerrainSampler(store_).sample(aircraft.position, ElevationDensity);
     const bool moved = !lastNear_.exists || distance(lastNear_.position, aircraft.position) > NearMoveMetres ||
                        std::fabs(lastNear_.altitudeMetres - aircraft.altitudeMetres) > NearClimbMetres;
     if (nearWanted && moved) {
-        buildNear(aircraft, elevation);
+        buildNear(aircraft, ground);
     } else {
         const Lock lock(mutexMessageAndPos_);
-        currentElevation_ = elevation;
-        lost_ = false;
+        setElevation(ground);
     }
-    if (wideWanted && (!lastWide_.exists || distance(lastWide_.position, aircraft.position) > WideMoveMetres))
+    if (wideWanted && isWideWorn(aircraft.position))
         buildWide(aircraft);
 }
 
-void TerrainPager::buildNear(const Aircraft& aircraft, float elevation) {
+void TerrainPager::setElevation(const TerrainSampler::Height& ground) {
+    currentElevation_ = ground.metres;
+    isElevationKnown_ = ground.isKnown;
+    lost_ = false;
+}
+
+/// Far from where it was made, or, after turning back, from its middle: the near mesh must hide the hole there.
+bool TerrainPager::isWideWorn(const ChartPosition& aircraft) const {
+    return !lastWide_.exists || distance(lastWide_.position, aircraft) > WideMoveMetres ||
+           distance(lastWide_.centre, aircraft) > WideMoveMetres;
+}
+
+void TerrainPager::buildNear(const Aircraft& aircraft, const TerrainSampler::Height& ground) {
     const ChartPosition centre =
         lastNear_.exists ? moveAhead(lastNear_.position, aircraft.position, NearMesh::AheadMetres) : aircraft.position;
     TerrainSampler sampler(store_);
     nearMesh_.build(sampler, centre, loadingNear_);
-    lastNear_ = {true, aircraft.position, aircraft.altitudeMetres};
+    lastNear_ = {true, aircraft.position, centre, aircraft.altitudeMetres};
     const Lock lock(mutexMessageAndPos_);
     terrContinue_ = false;
     newMeshAvailable_ = true;
-    currentElevation_ = elevation;
-    lost_ = false;
+    setElevation(ground);
 }
 
 void TerrainPager::buildWide(const Aircraft& aircraft) {
@@ -151,7 +160,7 @@ void TerrainPager::buildWide(const Aircraft& aircraft) {
         lastWide_.exists ? moveAhead(lastWide_.position, aircraft.position, WideMesh::AheadMetres) : aircraft.position;
     TerrainSampler sampler(store_);
     wideMesh_.build(sampler, centre, loadingWide_);
-    lastWide_ = {true, aircraft.position, aircraft.altitudeMetres};
+    lastWide_ = {true, aircraft.position, centre, aircraft.altitudeMetres};
     const Lock lock(mutexMessageAndPos_);
     terrWideContinue_ = false;
     newWideMeshAvailable_ = true;
@@ -194,6 +203,7 @@ void TerrainPager::swapWithThread(const Aircraft& aircraft, ImageCalls& images, 
     terrWideContinue_ |= newWideMeshAvailable_;
     newWideMeshAvailable_ = false;
     news.currentElevation = currentElevation_;
+    news.isElevationKnown = isElevationKnown_;
     news.lost = lost_;
 }
 

@@ -3,6 +3,7 @@
 #include "terrain/mesh/NearMesh.h"
 #include "terrain/mesh/WideMesh.h"
 #include "terrain/paging/TerrainRequests.h"
+#include "terrain/tree/TerrainSampler.h"
 #include "terrain/tree/TerrainStore.h"
 
 #include <condition_variable>
@@ -37,6 +38,7 @@ public:
         bool nearMesh = false, wideMesh = false; ///< That one is new.
         /// Metres at the aircraft; infinite without terrain.
         float currentElevation = 0.0f;
+        bool isElevationKnown = false; ///< As finely as it can be relied on.
         /// Nobody knows where the aircraft is: what was shown of the ground isn't right any more.
         bool lost = true;
         std::list<std::unique_ptr<PointCall>> points;
@@ -95,8 +97,11 @@ private:
     void answerImages(ImageCalls& calls);
     void handOver(PointCalls& points, ImageCalls& images);
     void watchAircraft(const Aircraft& aircraft, bool nearWanted, bool wideWanted);
-    void buildNear(const Aircraft& aircraft, float elevation);
+    void buildNear(const Aircraft& aircraft, const TerrainSampler::Height& ground);
+    /// Under the lock.
+    void setElevation(const TerrainSampler::Height& ground);
     void buildWide(const Aircraft& aircraft);
+    bool isWideWorn(const ChartPosition& aircraft) const;
     void forgetMeshes();
     ImageCalls takeWaitingImages();
     void swapWithThread(const Aircraft& aircraft, ImageCalls& images, News& news);
@@ -107,6 +112,7 @@ private:
     struct LastMesh {
         bool exists = false;
         ChartPosition position;
+        ChartPosition centre; ///< Of the mesh.
         double altitudeMetres = 0.0;
     };
 
@@ -135,6 +141,7 @@ private:
     PointCalls pCalls_, finishedPoints_;
     ImageCalls calls_, finishedImages_;
     float currentElevation_ = 0.0f;
+    bool isElevationKnown_ = false;
     bool lost_ = true;
     bool terrContinue_ = true, terrWideContinue_ = true;
     bool newMeshAvailable_ = false, newWideMeshAvailable_ = false;

@@ -4,8 +4,15 @@
 #include "terrain/tree/TileSampling.h"
 
 #include <cmath>
+#include <limits>
 
 namespace skyvane {
+namespace {
+
+/// Of a tile's density to the one that is wanted: eight times the distance between samples.
+constexpr double CoarsestRatio = 64.0;
+
+} // namespace
 
 int16_t TerrainSampler::getRaw(const ChartPosition& position, double density, bool interpolate) {
     const ChartPosition place(Angle0to360(position.longitude), Latitudinize(position.latitude));
@@ -38,6 +45,7 @@ int16_t TerrainSampler::search(const ChartPosition& place, double density, bool 
     const int16_t height = store_.getRoot()->hlp_getHeight(place, density, interpolate, true, last_);
     sea_ = last_.chosen->ocean_ && !last_.answering;
     known_ = !last_.hole;
+    mostKnownDensity_ = sea_ ? std::numeric_limits<double>::infinity() : CoarsestRatio * getAnsweringDensity();
     return height;
 }
 

@@ -18,11 +18,14 @@ public:
     /// A height for a mesh: between the samples, infinite where no tile is.
     struct Height {
         float metres;
-        bool isKnown; ///< False also where a tile has a hole, which counts as 0.
+        /// False also where a tile has a hole, which counts as 0, and where a tile stands in whose samples lie so much
+        /// farther apart than wanted that a single one would become a landscape that isn't there.
+        bool isKnown;
     };
     Height sample(const ChartPosition& position, double density) {
         const int16_t raw = getRaw(position, density, true);
-        return {toHeight(raw, false), raw != NoHeight && raw != MMTerrainNode::MissingTile};
+        const bool exists = raw != NoHeight && raw != MMTerrainNode::MissingTile;
+        return {toHeight(raw, false), exists && density <= mostKnownDensity_};
     }
     /// Samples per square kilometre of the tile that the last answer came from; 0 without one, and for the root, whose
     /// own density says nothing.
@@ -39,7 +42,8 @@ private:
     int16_t search(const ChartPosition& place, double density, bool interpolate);
 
     TerrainStore& store_;
-    bool known_ = false; ///< Whether `last_` answers for all of its chosen cell.
+    double mostKnownDensity_ = 0.0; ///< Wanted densities up to here are near enough to the last answer's own.
+    bool known_ = false;            ///< Whether `last_` answers for all of its chosen cell.
     bool sea_ = false;
     MMTerrainNode::Descent last_;
 };

@@ -21,6 +21,7 @@
 #include "support/StartAnswers.h"
 #include "terrain/TerrainFixture.h"
 #include "terrain/TerrainManager.h"
+#include "terrain/tree/TerrainStore.h"
 
 #include <filesystem>
 #include <functional>
@@ -102,11 +103,25 @@ protected:
                                                               createPitchMatrix(-pitch * radiansPerDegree) *
                                                               createRollMatrix(-bank * radiansPerDegree));
     }
-    /// Writes the ground of the whole earth at one height.
+    /// Writes the ground of the whole earth at one height; finely around the places that the tests fly over.
     void saveFlatEarth(int metres) {
         const std::string tiles = home + "/.Skyvane/Terrain/";
+        std::filesystem::remove_all(tiles);
         std::filesystem::create_directories(tiles);
         ASSERT_TRUE(saveTile(getTilePath(tiles, 0), flatTile(metres).data()));
+        TerrainStore store(tiles, 1);
+        linkTiles(tiles, *store.getRoot());
+    }
+    static void linkTiles(const std::string& tiles, ITerrainNode& node) {
+        for (int i = 0; i < node.getChildrenCount(); ++i) {
+            ITerrainNode& child = *node.getChild(i);
+            if (child.getChildrenCount() == 0 || child.getNWEdge().longitude > 6.0 ||
+                child.getSEEdge().longitude < 0.0 || child.getNWEdge().latitude < 38.0 ||
+                child.getSEEdge().latitude > 48.0)
+                continue;
+            std::filesystem::create_hard_link(getTilePath(tiles, 0), getTilePath(tiles, child.getId()));
+            linkTiles(tiles, child);
+        }
     }
     /// The chart and the terrain are made with the (empty) page of panels, the view beside them, without bars.
     void makePanel(const std::string& options = "") {

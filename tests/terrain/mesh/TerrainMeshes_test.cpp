@@ -1,12 +1,14 @@
 #include "chart/geodesy/LocalFrame.h"
 #include "support/AllocationCounter.h"
 #include "terrain/TerrainFixture.h"
+#include "terrain/mesh/MeshApron.h"
 #include "terrain/mesh/NearMesh.h"
 #include "terrain/mesh/TerrainColor.h"
 #include "terrain/mesh/TerrainImage.h"
 #include "terrain/mesh/WideMesh.h"
 #include "terrain/tree/TerrainSampler.h"
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 
@@ -34,6 +36,20 @@ protected:
         const Vector a = mesh.vertices[triangle[0]].position, b = mesh.vertices[triangle[1]].position,
                      c = mesh.vertices[triangle[2]].position;
         return (b.Z - a.Z) * (c.X - a.X) - (b.X - a.X) * (c.Z - a.Z) > 0.0f;
+    }
+    /// Of the wide mesh's triangle over a place, without the skirt's.
+    static double heightOn(const TerrainMesh& mesh, double x, double z) {
+        static const std::vector<uint16_t> indices = WideMesh::makeIndices();
+        for (size_t i = 6 * 230; i < indices.size(); i += 3) {
+            const Vector a = mesh.vertices[indices[i]].position, b = mesh.vertices[indices[i + 1]].position,
+                         c = mesh.vertices[indices[i + 2]].position;
+            const double area = static_cast<double>((b.X - a.X) * (c.Z - a.Z) - (c.X - a.X) * (b.Z - a.Z));
+            const double s = ((x - a.X) * (c.Z - a.Z) - (c.X - a.X) * (z - a.Z)) / area;
+            const double t = ((b.X - a.X) * (z - a.Z) - (x - a.X) * (b.Z - a.Z)) / area;
+            if (s >= -1e-6 && t >= -1e-6 && s + t <= 1.0 + 1e-6)
+                return a.Y + s * (b.Y - a.Y) + t * (c.Y - a.Y);
+        }
+        return NAN;
     }
     TerrainSampler sampler_{store_};
     TerrainMesh mesh_;
@@ -109,16 +125,92 @@ TEST_F(TerrainMeshes, sayWhenThereIsNothing) {
 
 TEST_F(TerrainMeshes, sayWhereAHoleLooksLikeTheSea) {
     std::vector<int16_t> holed = flatTile(300);
-    std::fill(holed.begin() + 601 * TileSide, holed.end(), NoHeight); // from 0.17 degrees south on
-    save(store_.getRoot(), holed);
+    std::fill(holed.begin() + 601 * TileSide, holed.end(), NoHeight); // from 1 degree south on
+    save(cell(200, 0, 4), holed);
     TerrainSampler sampler(store_);
-    NearMesh(64).build(sampler, {200.0, -0.16}, mesh_);
+    NearMesh(181).build(sampler, {201.0, -0.99}, mesh_);
     EXPECT_FALSE(mesh_.undefined);
     EXPECT_TRUE(mesh_.incomplete);
     EXPECT_FALSE(mesh_.vertices.front().isKnown) << "south";
     EXPECT_EQ(mesh_.vertices.front().position.Y, 0.0f);
     EXPECT_TRUE(mesh_.vertices.back().isKnown);
     EXPECT_EQ(mesh_.vertices.back().position.Y, 300.0f);
+}
+
+TEST_F(TerrainMeshes, dontTakeASingleSampleForALandscape) {
+    save(cell(0, 43, 2), flatTile(500));
+    save(cell(0, 44, 16), flatTile(700));
+    save(store_.getRoot(), flatTile(900));
+    const struct {
+        double longitude;
+        float height;
+        bool isKnown;
+    } places[] = {{1.0, 500, true}, {3.0, 700, false}, {30.0, 900, false}};
+    for (const auto& place : places) {
+        TerrainSampler sampler(store_);
+        const TerrainSampler::Height fine = sampler.sample({place.longitude, 42.5}, 140.0);
+        EXPECT_EQ(fine.metres, place.height);
+        EXPECT_EQ(fine.isKnown, place.isKnown) << place.longitude;
+        const TerrainSampler::Height coarse = sampler.sample({place.longitude, 42.5}, 2.0);
+        EXPECT_EQ(coarse.isKnown, place.height < 900) << place.longitude;
+    }
+    NearMesh near(181);
+    TerrainSampler sampler(store_);
+    near.build(sampler, {2.05, 42.5}, mesh_); // 4 km beyond the finer tile
+    EXPECT_TRUE(mesh_.incomplete);
+    EXPECT_FALSE(mesh_.undefined);
+}
+
+TEST_F(TerrainMeshes, meetWithoutAStep) {
+    // The finer tiles know ridges that the coarse ones don't.
+    for (const double west : {0.0, 4.0})
+        save(cell(west, 44, 4), makeTile([](int row, int column) { return 900 + 90 * ((row / 40 + column / 30) % 3); }));
+    save(cell(0, 44, 16), makeTile([](int row, int column) { return 1000 + (row + column) / 10; }));
+    save(cell(0, 44, 8), makeTile([](int row, int column) { return 1000 + (row + column) / 20; }));
+    NearMesh near(61);
+    near.build(sampler_, {3.9, 42.9}, mesh_);
+    TerrainMesh wide;
+    const double x = 3100.0, z = -2200.0;
+    WideMesh().build(sampler_, Vector3df642ChartPosition({3.9, 42.9}, {-x, 0.0, -z}), wide);
+    const auto wideVertex = [&wide](int i) { return wide.vertices[static_cast<size_t>(i)]; };
+    const auto nearVertex = [this](int i) { return mesh_.vertices[static_cast<size_t>(i)]; };
+    const MeshApron apron(61);
+    TerrainMesh skin;
+    apron.build(nearVertex, wideVertex, x, z, skin.vertices);
+    ASSERT_EQ(static_cast<int>(skin.vertices.size()), apron.getVertexCount());
+    const size_t rim = 4 * 60;
+    double steps = 0.0;
+    for (size_t i = 0; i < skin.vertices.size(); ++i) {
+        const TerrainVertex& vertex = skin.vertices[i];
+        const double out = std::max(std::abs(vertex.position.X), std::abs(vertex.position.Z));
+        // The slow way: whichever triangle of the wide mesh lies there.
+        const double wideHeight = heightOn(wide, vertex.position.X + x, vertex.position.Z + z);
+        ASSERT_NEAR(vertex.normal.getLength(), 1.0f, 1e-5f);
+        if (i < rim) {
+            EXPECT_NEAR(out, 10000.0, 0.01);
+            steps = std::max(steps, std::abs(vertex.position.Y - wideHeight));
+        } else {
+            const double slope = (vertex.position.Y - skin.vertices[i - rim].position.Y) /
+                                 (out - std::max(std::abs(skin.vertices[i - rim].position.X),
+                                                 std::abs(skin.vertices[i - rim].position.Z)));
+            EXPECT_LT(std::abs(slope), 0.5) << i;
+        }
+        if (out > 10000.0 + MeshApron::FadeMetres - 1.0) {
+            EXPECT_NEAR(vertex.position.Y, wideHeight, 1.0) << i;
+        }
+    }
+    EXPECT_GT(steps, 40.0) << "there was one to be taken away";
+    // Its edge is the near mesh's, vertex by vertex, and no triangle is turned over.
+    for (size_t i = 0; i < rim; ++i) {
+        const auto is = [&](const TerrainVertex& each) { return each.position == skin.vertices[i].position; };
+        EXPECT_TRUE(std::any_of(mesh_.vertices.begin(), mesh_.vertices.end(), is));
+    }
+    const std::vector<uint16_t> indices = apron.makeIndices();
+    for (size_t i = 0; i < indices.size(); i += 3)
+        ASSERT_TRUE(isClockwise(skin, &indices[i])) << i;
+    const AllocationCounter allocations;
+    apron.build(nearVertex, wideVertex, x, z, skin.vertices);
+    EXPECT_EQ(allocations.count(), 0u);
 }
 
 TEST_F(TerrainMeshes, moveAheadOfTheAircraft) {

@@ -44,6 +44,7 @@ TEST_F(TerrainPaging, makesMeshesAsTheAircraftMoves) {
     ASSERT_TRUE(news_.nearMesh && news_.wideMesh);
     EXPECT_FALSE(news_.lost);
     EXPECT_EQ(news_.currentElevation, 500.0f);
+    EXPECT_TRUE(news_.isElevationKnown);
     EXPECT_EQ(news_.near.centre.longitude, 1.5);
     EXPECT_EQ(news_.near.vertices.size(), 32u * 32u);
     EXPECT_EQ(news_.near.maximum, news_.near.minimum + 1.0f) << "flat";
@@ -62,6 +63,10 @@ TEST_F(TerrainPaging, makesMeshesAsTheAircraftMoves) {
     fly({1.5, 42.5 + 5100 / degree}, 1101);
     EXPECT_TRUE(news_.wideMesh);
     EXPECT_NEAR(news_.wide.centre.latitude, 42.5 + 7600 / degree, 1e-9);
+    fly({1.5, 42.5 + 2700 / degree}, 1101);
+    EXPECT_FALSE(news_.wideMesh);
+    fly({1.5, 42.5 + 2500 / degree}, 1101);
+    EXPECT_TRUE(news_.wideMesh) << "turned back: its middle is far off";
 }
 
 TEST_F(TerrainPaging, forgetsAnAircraftThatIsLost) {

@@ -3,6 +3,7 @@
 #include "chart/geodesy/LocalFrame.h"
 #include "chartmaker/inspect/ReliefPicture.h"
 #include "core/text/StrictNumber.h"
+#include "terrain/mesh/MeshApron.h"
 #include "terrain/mesh/NearMesh.h"
 #include "terrain/mesh/WideMesh.h"
 #include "terrain/tree/TerrainSampler.h"
@@ -73,9 +74,18 @@ bool parse(const Arguments& arguments, ReliefOptions& options, std::string& erro
     return error.empty();
 }
 
-/// Sinks the wide mesh where the near one lies, which is another, finer ground: a skirt hangs down between them.
+/// Around the near mesh, which the wide one's more coarsely known ground would meet with a step.
+TerrainMesh makeApron(const MeshApron& apron, const TerrainMesh& near, const TerrainMesh& wide) {
+    TerrainMesh mesh;
+    apron.build([&near](int i) { return near.vertices[static_cast<size_t>(i)]; },
+                [&wide](int i) { return wide.vertices[static_cast<size_t>(i)]; }, 0.0, 0.0, mesh.vertices);
+    return mesh;
+}
+
+/// Sinks the wide mesh where the near one and its apron lie.
 void sinkUnderNear(TerrainMesh& wide) {
-    constexpr float covered = 0.94f * static_cast<float>(NearMesh::RadiusMetres), depth = 3000.0f;
+    constexpr auto covered = static_cast<float>(MeshApron::CoveredHalfSide);
+    constexpr float depth = 3000.0f;
     for (TerrainVertex& vertex : wide.vertices)
         if (std::max(std::fabs(vertex.position.X), std::fabs(vertex.position.Z)) < covered)
             vertex.position.Y -= depth;
@@ -107,6 +117,8 @@ int runRelief(const Arguments& arguments) {
     ReliefPicture picture(options.view);
     if (!nearMesh.undefined) {
         picture.draw(nearMesh, near.makeIndices());
+        const MeshApron apron(NearSamples);
+        picture.draw(makeApron(apron, nearMesh, wideMesh), apron.makeIndices());
         sinkUnderNear(wideMesh);
     }
     picture.draw(wideMesh, WideMesh::makeIndices());
