@@ -15,9 +15,9 @@ class OGLES2TerrainCB;
 class SceneStage;
 class TerrainManager;
 
-/// The ground around the aircraft: the near mesh, the wide one beyond it, and an apron that leads from one to the other.
-/// The wide one sinks out of sight where these cover it. Colours warn by how far the aircraft is above. Main thread
-/// only.
+/// The ground around the aircraft: the near mesh, the wide one beyond it, and an apron that leads from one to the
+/// other. The wide one sinks out of sight where these cover it. Colours warn by how far the aircraft is above. Main
+/// thread only.
 class TerrainView {
 public:
     explicit TerrainView(Context* context);

@@ -164,7 +164,8 @@ TEST_F(TerrainMeshes, dontTakeASingleSampleForALandscape) {
 TEST_F(TerrainMeshes, meetWithoutAStep) {
     // The finer tiles know ridges that the coarse ones don't.
     for (const double west : {0.0, 4.0})
-        save(cell(west, 44, 4), makeTile([](int row, int column) { return 900 + 90 * ((row / 40 + column / 30) % 3); }));
+        save(cell(west, 44, 4),
+             makeTile([](int row, int column) { return 900 + 90 * ((row / 40 + column / 30) % 3); }));
     save(cell(0, 44, 16), makeTile([](int row, int column) { return 1000 + (row + column) / 10; }));
     save(cell(0, 44, 8), makeTile([](int row, int column) { return 1000 + (row + column) / 20; }));
     NearMesh near(61);
