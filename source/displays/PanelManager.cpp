@@ -191,7 +191,11 @@ bool PanelManager::processMessageBoxEvent(const irr::SEvent& event) {
 }
 
 bool PanelManager::processOverlayEvent(const irr::SEvent& event) {
-    return overlays_ && event.EventType == irr::EET_MOUSE_INPUT_EVENT && overlays_->processMouse(event.MouseInput);
+    const bool isTap =
+        overlays_ && event.EventType == irr::EET_MOUSE_INPUT_EVENT && overlays_->processMouse(event.MouseInput);
+    if (isTap)
+        keepManualClear();
+    return isTap;
 }
 
 /// While the manual is open everything is its own.
@@ -214,6 +218,13 @@ void PanelManager::setManualVisible(const std::string& page) {
         manual_ = std::make_unique<ManualWindow>(context_, page);
     if (overlays_)
         overlays_->setManualOpen(true);
+    keepManualClear();
+}
+
+/// Of the instruments that lie over it.
+void PanelManager::keepManualClear() {
+    if (manual_ && overlays_)
+        manual_->keepClear(overlays_->getCoverOfManual());
 }
 
 void PanelManager::blockForManualExit() {

@@ -165,6 +165,7 @@ private:
     /// While messages are off, the one of before stays out of sight too.
     bool isMessageBoxShown() const { return !messagesDisabled_ && board_.isAccepting(); }
     bool processMessageBoxEvent(const irr::SEvent& event);
+    void keepManualClear();
     bool processOverlayEvent(const irr::SEvent& event);
     bool processManualEvent(const irr::SEvent& event);
     void closeManual();

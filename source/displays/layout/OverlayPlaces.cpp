@@ -26,6 +26,16 @@ const irr::core::rect<int>& OverlayPlaces::getPlace(Instrument instrument) const
     return isMinimised_ ? minimised_[instrument] : isManualOpen_ ? overManual_[instrument] : given_[instrument];
 }
 
+irr::core::rect<int> OverlayPlaces::getCoverOfManual() const {
+    irr::core::rect<int> cover;
+    if (!isManualOpen_)
+        return cover;
+    cover = getPlace(Attitude);
+    cover.addInternalPoint(getPlace(Compass).UpperLeftCorner);
+    cover.addInternalPoint(getPlace(Compass).LowerRightCorner);
+    return cover;
+}
+
 OverlayPlaces::Instrument OverlayPlaces::instrumentAt(irr::core::vector2d<int> at) const {
     for (const Instrument instrument : {Attitude, Compass}) // the one that is drawn last first
         if (isVisible(instrument) && getPlace(instrument).isPointInside(at))

@@ -22,6 +22,9 @@ public:
     bool isVisible(Instrument instrument) const { return visible_[instrument] || isManualOpen_; }
     const irr::core::rect<int>& getPlace(Instrument instrument) const;
 
+    /// What the two cover of the manual; empty while it isn't open.
+    irr::core::rect<int> getCoverOfManual() const;
+
     /// Arms the tap when the point lies on a visible instrument. The press travels on.
     void press(irr::core::vector2d<int> at);
     /// True when it ended a tap, which has moved the instruments to their other places.

@@ -24,6 +24,7 @@ public:
     /// Null as place keeps the one that was given before.
     void show(OverlayPlaces::Instrument instrument, bool visible, const irr::core::rect<int>* place);
     void setManualOpen(bool open) { places_.setManualOpen(open); }
+    irr::core::rect<int> getCoverOfManual() const { return places_.getCoverOfManual(); }
     void render();
     /// True when the event ended a tap on an instrument, which makes them small or large.
     bool processMouse(const irr::SEvent::SMouseInput& mouse);

@@ -1,6 +1,7 @@
 #include "gui/hypertext/CHyperTextElement.h"
 
 #include "gui/font/FlexibleFont.h"
+#include "gui/layoutmath/RestOfPage.h"
 #include "gui/skin/Skin.h"
 #include "gui/windows/WindowTools.h"
 
@@ -12,6 +13,7 @@ namespace {
 using Rect = irr::core::rect<int>;
 
 constexpr int rim = 3;
+constexpr int gapToCover = 8;
 constexpr int marginsInWidth = 80;
 const wchar_t* const labels[] = {L"<", L">", L"+", L"-", L"1"};
 
@@ -68,7 +70,7 @@ void CHyperTextElement::updateAbsolutePosition() {
 Rect CHyperTextElement::pageRect() const {
     Rect rect = AbsoluteRect;
     rect.UpperLeftCorner.Y += options_.barHeight > 0 ? options_.barHeight + rim : 0;
-    return rect;
+    return restOfPage(rect, cover_, gapToCover);
 }
 
 Style CHyperTextElement::baseStyle() const {

@@ -30,6 +30,8 @@ public:
     bool gotoFile(const std::string& file, const char* dir) { return document_.gotoFile(file, dir, true); }
     /// Its default scale is that of the text. Null shows nothing.
     void setFlexibleFont(FlexibleFont* font);
+    /// The page keeps clear of what lies over it there, in pixels of the screen; the buttons stay. Empty for nothing.
+    void keepClear(const irr::core::rect<int>& cover) { cover_ = cover; }
     std::string toHTML(const std::string& title) const { return document_.toHTML(title); }
     const Document& getDocument() const { return document_; }
 
@@ -50,6 +52,7 @@ private:
 
     Options options_;
     Document document_;
+    irr::core::rect<int> cover_;
     FlexibleFont* font_ = nullptr;                             ///< Held by the document.
     std::array<irr::gui::IGUIButton*, ButtonCount> buttons_{}; ///< Children; null without a bar.
 };

@@ -54,6 +54,10 @@ bool ManualWindow::isClosedBy(const irr::SEvent& event) const {
     return isClickOf(event, back_);
 }
 
+void ManualWindow::keepClear(const irr::core::rect<int>& cover) {
+    element_->keepClear(cover);
+}
+
 void ManualWindow::gotoPage(const std::string& page) {
     element_->gotoFile(page, nullptr);
 }

@@ -24,7 +24,8 @@ public:
     /// True for the click that closes the manual.
     bool isClosedBy(const irr::SEvent& event) const;
     void gotoPage(const std::string& page);
-    CHyperTextElement* getElement() const { return element_; }
+    /// The page leaves room for what lies over it there.
+    void keepClear(const irr::core::rect<int>& cover);
 
     /// Whether the manual that is installed has the page.
     static bool hasPage(Context* context, const std::string& page);

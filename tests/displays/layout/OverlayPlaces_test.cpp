@@ -40,8 +40,13 @@ TEST(OverlayPlaces, overTheManualBothStandInItsUpperRightCorner) {
     EXPECT_TRUE(places.isVisible(Overlay::Compass));
     EXPECT_EQ(places.getPlace(Overlay::Attitude), rect<int>(1280 - 213 - 15, 62, 1265, 62 + 213));
     EXPECT_EQ(places.getPlace(Overlay::Compass), rect<int>(1280 - 15 - 426, 62, 1280 - 213 - 15, 62 + 213));
+    EXPECT_EQ(places.getCoverOfManual(), rect<int>(1280 - 15 - 426, 62, 1265, 62 + 213));
+    places.press({1200, 200});
+    EXPECT_TRUE(places.release({1200, 200}));
+    EXPECT_EQ(places.getCoverOfManual(), rect<int>(1280 - 164, 720 - 82, 1280, 720));
     places.setManualOpen(false);
     EXPECT_FALSE(places.isVisible(Overlay::Attitude));
+    EXPECT_EQ(places.getCoverOfManual(), rect<int>());
 }
 
 } // namespace
