@@ -4,6 +4,12 @@
 #include "core/time/Time.h"
 
 namespace skyvane {
+namespace {
+
+/// So often labels that are stuck are sent elsewhere.
+constexpr int rescues = 2;
+
+} // namespace
 
 ConcurrentRectangleGradientDescent::ConcurrentRectangleGradientDescent(const irr::core::rect<double>& spaceLimit)
     : solver_(spaceLimit) {}
@@ -57,7 +63,10 @@ void* ConcurrentRectangleGradientDescent::threadMain(void* self) {
 }
 
 void ConcurrentRectangleGradientDescent::run() {
-    solver_.optimize(maxIterations_, step_, threshold_, anchorsAreObstacles_, [this] { return isAborted(); });
+    const auto aborted = [this] { return isAborted(); };
+    solver_.optimize(maxIterations_, step_, threshold_, anchorsAreObstacles_, aborted);
+    for (int i = 0; i < rescues && !aborted() && solver_.freeStuckLabels(aborted); ++i)
+        solver_.optimize(maxIterations_, step_, threshold_, anchorsAreObstacles_, aborted);
     const std::lock_guard<std::mutex> lock(mutex_);
     running_ = false;
 }

@@ -6,7 +6,7 @@
 
 namespace skyvane {
 
-/// Solves labels on a thread of the pool while the display goes on.
+/// Solves labels on a thread of the pool while the display goes on, and frees those that got stuck.
 ///
 /// The owner calls everything from one thread. While isRunning() the labels belong to the solver: neither add, read nor
 /// clear them before it has ended or abort() has returned.

@@ -6,6 +6,12 @@ namespace skyvane {
 
 namespace {
 
+/// A label that is covered by less than this share of itself isn't stuck.
+constexpr double tolerableShare = 0.08;
+/// What a new place must save to be worth a jump, and what a farther one must save over a nearer.
+constexpr double worthwhileShare = 0.5, fartherShare = 0.04;
+constexpr int placesOnEachSide = 12; // half a circle
+
 using Pair = RectangleGradientDescent::Pair;
 using Rect = RectangleGradientDescent::Rect;
 
@@ -104,6 +110,46 @@ void RectangleGradientDescent::move(double step, double threshold) {
         entry.first.angle += gradients_[i] > 0.0 ? -step / 2.0 : step / 2.0;
         entry.second = convertToRect(entry.first, entry.first.angle);
     }
+}
+
+bool RectangleGradientDescent::freeStuckLabels(const std::function<bool()>& aborted) {
+    bool any = false;
+    fillTree(true);
+    for (Entry& entry : entries_) {
+        if (!freeLabel(entry))
+            continue;
+        any = true;
+        fillTree(true);
+        if (aborted && aborted())
+            break;
+    }
+    return any;
+}
+
+/// The tree holds labels and symbols; the label's own symbol only touches it.
+bool RectangleGradientDescent::freeLabel(Entry& entry) {
+    const Rectangle& label = entry.first;
+    const auto overlapAt = [&](double angle) {
+        return tree_.calcOverlappingArea(&entry.second, convertToRect(label, angle));
+    };
+    const double area = label.size.X * label.size.Y, now = overlapAt(label.angle);
+    if (!(now > tolerableShare * area))
+        return false;
+    double least = worthwhileShare * now, freest = label.angle;
+    for (int place = 1; place <= placesOnEachSide; ++place)
+        for (const double side : {1.0, -1.0}) {
+            const double angle = label.angle + side * M_PI * place / placesOnEachSide;
+            const double overlap = overlapAt(angle);
+            if (overlap < least - (freest == label.angle ? 0.0 : fartherShare * area)) {
+                least = overlap;
+                freest = angle;
+            }
+        }
+    if (freest == label.angle)
+        return false;
+    entry.first.angle = freest;
+    entry.second = convertToRect(entry.first, freest);
+    return true;
 }
 
 } // namespace skyvane

@@ -53,6 +53,11 @@ public:
     bool optimize(unsigned maxIterations, double step, double threshold, bool anchorsAreObstacles,
                   const std::function<bool()>& aborted = nullptr);
 
+    /// A descent ends in the nearest hollow. This sends each label that still lies on others, or on the symbols of
+    /// others, to the freest place around its own symbol, where that saves at least half of the overlap. True when one
+    /// was sent: optimize() again. `aborted` is asked after each label.
+    bool freeStuckLabels(const std::function<bool()>& aborted = nullptr);
+
     /// Where a label lies at an angle: on its orbit around the symbol, moved up to it and into its limit.
     static Rect convertToRect(const Rectangle& rectangle, double angle);
 
@@ -60,6 +65,7 @@ private:
     void fillTree(bool anchorsAreObstacles);
     bool calcGradients(double step, double threshold);
     void move(double step, double threshold);
+    bool freeLabel(Entry& entry);
 
     Rect spaceLimit_;
     std::deque<Entry> entries_;

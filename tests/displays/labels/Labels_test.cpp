@@ -119,6 +119,42 @@ TEST(RectangleGradientDescent, clearsAMapAndAllocatesNothingOnceGrown) {
     EXPECT_EQ(count.count(), 0u);
 }
 
+TEST(RectangleGradientDescent, freesLabelsThatAreStuck) {
+    // Between two neighbours the middle one gains nothing by a small turn to either side.
+    RectangleGradientDescent row(Space);
+    const auto* middle = row.addRectangle({{0.0, 0.0}, {80.0, 20.0}, 0.0, {16.0, 16.0}, nullptr});
+    row.addRectangle({{60.0, 12.0}, {80.0, 20.0}, 0.0, {4.0, 4.0}, nullptr});
+    const auto* alone = row.addRectangle(labelAt(-500.0, 0.0, 1.0));
+    EXPECT_TRUE(row.freeStuckLabels());
+    EXPECT_FALSE(row.freeStuckLabels()) << "it is free now";
+    EXPECT_FALSE(middle->second.isRectCollided(Rect(59.0, 11.0, 61.0, 13.0))) << "the other's symbol can be seen";
+    EXPECT_EQ(overlaps(row), 0.0);
+    EXPECT_EQ(alone->first.angle, 1.0) << "what is free stays";
+
+    std::mt19937 random(Seed);
+    std::uniform_real_distribution<double> x(-640.0, 640.0), y(-360.0, 360.0);
+    RectangleGradientDescent crowd(Space);
+    for (int i = 0; i < 120; ++i)
+        crowd.addRectangle(labelAt(x(random), y(random), -1.0));
+    crowd.optimize(400, Degree, 0.01, false);
+    const double stuck = overlaps(crowd);
+    for (int i = 0; i < 2 && crowd.freeStuckLabels(); ++i)
+        crowd.optimize(400, Degree, 0.01, false);
+    EXPECT_LT(overlaps(crowd), 0.4 * stuck);
+}
+
+TEST(RectangleGradientDescent, freesNobodyWhereThereIsNoRoom) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    RectangleGradientDescent heap(Space);
+    for (int i = 0; i < 30; ++i)
+        heap.addRectangle(labelAt(0.0, 0.0, 0.2 * i));
+    heap.addRectangle({{nan, nan}, {nan, nan}, nan, {0.0, 0.0}, nullptr});
+    int jumps = 0;
+    while (jumps < 20 && heap.freeStuckLabels())
+        ++jumps;
+    EXPECT_LT(jumps, 20) << "they don't change places for ever";
+}
+
 TEST(ConcurrentRectangleGradientDescent, runsBesideAndIsAborted) {
     ConcurrentRectangleGradientDescent labels(Space);
     labels.abort();
