@@ -2,6 +2,7 @@
 
 #include "chart/DialogProgress.h"
 #include "core/Context.h"
+#include "core/files/FilesOfFolder.h"
 #include "core/log/Logger.h"
 #include "core/system/SystemManager.h"
 #include "core/time/Time.h"
@@ -11,7 +12,9 @@
 #include "sensors/records/Altitude_Data.h"
 #include "sensors/records/Position_Data.h"
 #include "terrain/files/BackgroundList.h"
+#include "terrain/files/TerrainIndexFile.h"
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 
@@ -173,7 +176,16 @@ void TerrainManager::dirtyCheck(bool force) {
     pager_.pauseThread(false);
 }
 
+bool TerrainManager::hasTiles() {
+    if (!hasTiles_) {
+        const std::vector<std::string> lists = filesOfFolder(store_.getFolder(), TerrainIndexEnding);
+        hasTiles_ = std::any_of(lists.begin(), lists.end(), [](const auto& name) { return name != CommonIndexName; });
+    }
+    return *hasTiles_;
+}
+
 void TerrainManager::computeLevels() {
+    hasTiles_.reset();
     SystemManager* system = context_->getSystemManager();
     DialogProgress progress(context_, DialogProgress::Kind::Long);
     const bool complete = store_.getRoot()->OnUpdate(store_.getFolder().c_str(), &progress, system->getSystemMemory(),

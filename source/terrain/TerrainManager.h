@@ -5,6 +5,7 @@
 
 #include <irrlicht.h>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace skyvane {
@@ -40,6 +41,8 @@ public:
     ITerrainData* requestCachedTerrainData(ITerrainNode* node) { return store_.requestCachedTerrainData(node); }
     ITerrainNode* getTerrainTree() { return store_.getRoot(); }
     TerrainTreeType getTerrainTreeType() const { return type_; }
+    /// Whether there is a list of installed tiles, whatever they cover.
+    bool hasTiles();
     const std::string& getTerrainPath() const { return store_.getFolder(); }
 
     /// Metres, at the aircraft; infinite without terrain there, or while nobody knows where it is.
@@ -99,6 +102,7 @@ private:
     TerrainMeshPair nearMeshes_, wideMeshes_;
     unsigned lastUpdateMilliseconds_ = 0;
     bool dirtyCheckDone_;
+    std::optional<bool> hasTiles_; ///< Nothing before it was asked for.
 };
 
 } // namespace skyvane

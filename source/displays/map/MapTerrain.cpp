@@ -144,6 +144,11 @@ void MapTerrain::setHeightLimits(double altitudeMetres) {
         lowest, middle, std::max(highest, lowest + 1.0f), static_cast<float>(altitudeMetres));
 }
 
+bool MapTerrain::isGroundKnownElsewhere() const {
+    TerrainManager* terrain = panels_->getTerrainManager();
+    return terrain && terrain->hasTiles();
+}
+
 void MapTerrain::draw(const MapView& view, double altitudeMetres, bool isOpaque) {
     if (!isDrawable())
         return;

@@ -30,7 +30,7 @@ public:
     void requestAnew() { isWanted_ = true; }
     void onResult(const ChartPosition& nw, const ChartPosition& se, irr::video::IImage* image, bool undefined,
                   float minimum, float average, float maximum);
-    bool isDrawable() const { return texture_ && !undefined_; }
+    bool isDrawable() const { return texture_ && (!undefined_ || isGroundKnownElsewhere()); }
     /// In the panel's viewport. `opaque` where nothing lies below: else only ground that warns is seen.
     void draw(const MapView& view, double altitudeMetres, bool isOpaque);
 
@@ -40,6 +40,8 @@ private:
     void request(const MapView& view);
     void setTexture(irr::video::IImage& image);
     void removeTexture();
+    /// Without any terrain the map has no ground at all; else what nobody knows is told from what is known.
+    bool isGroundKnownElsewhere() const;
     void setHeightLimits(double altitudeMetres);
 
     Context* context_;

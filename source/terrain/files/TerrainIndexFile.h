@@ -9,6 +9,7 @@ namespace skyvane {
 // ended by a line feed: "0", the package's name, one node id in decimal a line; then a closing text without a line
 // feed.
 
+constexpr const char* TerrainIndexEnding = ".ti";
 constexpr const char* CommonIndexName = "common.ti";
 /// Name and closing text of common.ti.
 constexpr const char* NoIndexText = "N/A";

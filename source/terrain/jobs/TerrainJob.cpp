@@ -2,6 +2,7 @@
 
 #include "core/files/SafeFile.h"
 #include "core/log/Logger.h"
+#include "terrain/files/TerrainIndexFile.h"
 #include "terrain/jobs/ParallelLoop.h"
 
 #include <algorithm>
@@ -40,7 +41,7 @@ void TerrainJob::findLeaves() {
 bool TerrainJob::run() {
     progress_.setState("Calculating terrain levels...");
     removeUnfinishedFiles(folder_, TerrainTileEnding);
-    removeUnfinishedFiles(folder_, ".ti");
+    removeUnfinishedFiles(folder_, TerrainIndexEnding);
     root_->resetLoadable();
     if (!recalculateMipMapLevels() || !synchronizeWithNeighborsAndSave())
         return false;
