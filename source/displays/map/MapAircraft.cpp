@@ -19,8 +19,8 @@ constexpr float standardShare = 0.79057f;
 /// Of the screen's unit: the pictures are drawn for one of 500 pixels.
 constexpr float pictureUnit = 500.0f;
 constexpr int bigMarkEvery = 5;
-/// Marks nearer to each other than that would only be a bar.
-constexpr double nearestMarks = 5.0;
+/// Marks nearer to each other than so many of their thickness would look like a ladder.
+constexpr double nearestMarks = 2.4;
 
 irr::video::SColor colorOf(ISensor::WarningLevel level) {
     return level == ISensor::GOOD ? white : level == ISensor::MAYBE_WRONG ? yellow : red;
@@ -57,7 +57,8 @@ void MapAircraft::drawNose(int length, float turnedDegrees) {
     // The line's picture lies along x.
     drawer->Draw(images_.nose.get(), place, {static_cast<int>(std::lround(pixels)), size(images_.nose).Height},
                  turnedDegrees + 90.0f, {0.0f, 0.5f});
-    const int step = unit >= nearestMarks ? 1 : unit * bigMarkEvery >= nearestMarks ? bigMarkEvery : length;
+    const double nearest = nearestMarks * size(images_.noseSegment).Height;
+    const int step = unit >= nearest ? 1 : unit * bigMarkEvery >= nearest ? bigMarkEvery : length;
     for (int mark = step; mark < length && mark * unit < longest; mark += step) {
         const PanelTexture& picture = mark % bigMarkEvery == 0 ? images_.noseSegmentBig : images_.noseSegment;
         const MapView::Point ahead =

@@ -19,6 +19,8 @@ struct Look {
 constexpr Look looks[] = {
     {L"+", "greyVis"},      {L"-", "greyVis"},      {L"Info", "blueVis"},     {L"     Create", "direct2Normal"},
     {L"Center", "blueVis"}, {L"Next", "yellowVis"}, {L"Options", "brownVis"}, {L"Help", "greyVis"}};
+/// Of the usual width: a picture or a lamp stands beside the words.
+constexpr float widthShare = 1.15f;
 constexpr const char* procedureStyle = "proc2Normal";
 constexpr const char* directStyle = "direct2Normal";
 
@@ -59,7 +61,8 @@ void MapButtons::place(const irr::core::rect<int>& panel, const State& state) {
     const int gap = std::max(2, metrics.buttonHeight / 8);
     constexpr int rows = static_cast<int>(Count) - 1;
     const int height = std::min(metrics.buttonHeight, (panel.getHeight() - gap) / rows - gap);
-    const int width = std::min(metrics.buttonWidth, panel.getWidth() - 2 * gap);
+    const int width =
+        std::min(static_cast<int>(widthShare * static_cast<float>(metrics.buttonWidth)), panel.getWidth() - 2 * gap);
     const int left = panel.LowerRightCorner.X - width - gap;
     int top = panel.LowerRightCorner.Y - rows * (height + gap);
     const int half = (width - gap) / 2;

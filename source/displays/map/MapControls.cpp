@@ -23,6 +23,7 @@ using Rect = irr::core::rect<int>;
 const irr::video::SColor white(0xffffffff);
 const irr::video::SColor black(0xff000000);
 const irr::video::SColor plate(0xb0101820);
+const irr::video::SColor distancePlate(0xe8ffffff);
 const irr::video::SColor warningPlate(0xe0c00000);
 const irr::video::SColor zoomBarColor(0x203a4053);
 const irr::video::SColor usedZoomBarColor(0x80404040);
@@ -84,6 +85,7 @@ void MapControls::drawText(CachedText& text, const Rect& panel, const Rect& plac
 
 void MapControls::draw(const Rect& panel, const MapReadings& readings, const MapGestures& gestures) {
     const bool follows = isFollowing(view_.getMode());
+    plates_.clear();
     if (follows) {
         drawZoomBar(gestures);
         drawCompass(panel);
@@ -96,10 +98,16 @@ void MapControls::draw(const Rect& panel, const MapReadings& readings, const Map
     drawTrouble(panel, readings);
 }
 
+void MapControls::drawPlate(const Rect& place, irr::video::SColor color) {
+    map_.getDrawer()->drawRectWithCorner(place, place.getHeight() / 4, color);
+    plates_.push_back(place);
+}
+
 void MapControls::drawCompass(const Rect& panel) {
     Drawer2D* drawer = map_.getDrawer();
     const int edge = compassEdge(), height = view_.getPanel().height;
     const Rect square(0, height - edge, edge, height);
+    plates_.push_back(square);
     const int middle = static_cast<int>(map_.getContext()->getScreenMetrics().width) / 2;
     const bool isUnderMessages = panel.UpperLeftCorner.X <= middle && panel.UpperLeftCorner.X + edge >= middle;
     if (isUnderMessages)
@@ -141,7 +149,7 @@ void MapControls::drawOrientation(const Rect& panel, int left) {
     const int arrow = height * 2 / 3;
     const int width = widthOf(orientation_.getText().c_str(), smallText) + arrow + height;
     const Rect place(left, bottom - height, left + width, bottom);
-    map_.getDrawer()->drawRectWithCorner(place, height / 4, plate);
+    drawPlate(place, plate);
     const int x = left + height / 3 + arrow / 2, middle = place.getCenter().Y;
     std::vector<Drawer2D::Position> tip = {{x, middle - arrow / 2}, {x + arrow / 2, middle}, {x - arrow / 2, middle}};
     map_.getDrawer()->setColor(white);
@@ -164,7 +172,7 @@ void MapControls::drawScale(const Rect& panel, int left) {
     set(scale_, wide_.c_str(), white);
     const int pad = height / 3, text = widthOf(wide_.c_str(), smallText);
     const Rect place(left, bottom - height, left + length + text + 3 * pad, bottom);
-    drawer->drawRectWithCorner(place, height / 4, plate);
+    drawPlate(place, plate);
     const int from = left + pad, to = from + length, y = place.getCenter().Y, tick = height / 4;
     const int thick = std::max(2, height / 12);
     drawer->drawFilledRect(Rect(from, y - thick / 2, to, y - thick / 2 + thick), white);
@@ -183,7 +191,7 @@ void MapControls::drawDistance(const Rect& panel, const MapReadings& readings) {
     set(distance_, wide_.c_str(), black);
     const int left = height / 4, width = widthOf(wide_.c_str(), smallText) + height;
     const Rect place(left, bottom - height, left + width, bottom);
-    map_.getDrawer()->drawRectWithCorner(place, height / 4, irr::video::SColor(0xe8ffffff));
+    drawPlate(place, distancePlate);
     drawText(distance_, panel, place, smallText, true);
 }
 
@@ -202,7 +210,7 @@ void MapControls::drawTrouble(const Rect& panel, const MapReadings& readings) {
     const int width = widthOf(words, 0.85f) + height, middle = view_.getPanel().width / 2;
     const int top = view_.getPanel().height / 5;
     const Rect place(middle - width / 2, top, middle - width / 2 + width, top + height);
-    map_.getDrawer()->drawRectWithCorner(place, height / 4, warningPlate);
+    drawPlate(place, warningPlate);
     drawText(trouble_, panel, place, 0.85f, true);
 }
 

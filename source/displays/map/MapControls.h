@@ -4,6 +4,7 @@
 #include "gui/font/CachedText.h"
 
 #include <irrlicht.h>
+#include <vector>
 
 namespace skyvane {
 
@@ -26,9 +27,12 @@ public:
     void draw(const irr::core::rect<int>& panel, const MapReadings& readings, const MapGestures& gestures);
     /// A box that says so while the first set of tiles is made.
     void drawDrawingBox(const irr::core::rect<int>& panel);
+    /// Where the last frame had words of its own, in pixels of the panel.
+    const std::vector<irr::core::rect<int>>& getPlates() const { return plates_; }
 
 private:
     int compassEdge() const;
+    void drawPlate(const irr::core::rect<int>& place, irr::video::SColor color);
     void drawCompass(const irr::core::rect<int>& panel);
     void drawZoomBar(const MapGestures& gestures);
     void drawOrientation(const irr::core::rect<int>& panel, int left);
@@ -51,6 +55,7 @@ private:
     CachedText trouble_;
     CachedText drawing_;
     std::wstring wide_;
+    std::vector<irr::core::rect<int>> plates_;
 };
 
 } // namespace skyvane

@@ -9,6 +9,7 @@
 #include "displays/map/Map2D.h"
 #include "gui/font/FlexibleFont.h"
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <utility>
@@ -216,12 +217,13 @@ irr::core::rect<int> MapLabels::calcRect(const RGDContent& content) const {
             pixel.Y + static_cast<int>(std::lround(size.Y))};
 }
 
-void MapLabels::draw(const irr::core::rect<int>& panel) {
+void MapLabels::draw(const irr::core::rect<int>& panel, const std::vector<irr::core::rect<int>>& plates) {
     const irr::core::rect<int> inside(0, 0, panel.getWidth(), panel.getHeight());
     drawn_.clear();
     for (size_t i = 0; i < shown_.size(); ++i) {
         const irr::core::rect<int> rect = calcRect(shown_[i]);
-        if (!rect.isRectCollided(inside))
+        const auto hides = [&rect](const irr::core::rect<int>& plate) { return plate.isRectCollided(rect); };
+        if (!hides(inside) || std::any_of(plates.begin(), plates.end(), hides))
             continue;
         drawn_.push_back(i);
         if (shown_[i].letters)

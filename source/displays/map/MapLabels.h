@@ -38,8 +38,9 @@ public:
 
     /// Once a frame: takes what is solved, and starts the solver where that is needed.
     void update();
-    /// In the panel's viewport, whose place on the screen is told.
-    void draw(const irr::core::rect<int>& panel);
+    /// In the panel's viewport, whose place on the screen is told. What would lie under one of the plates, in pixels of
+    /// the panel, is left out: words on words can't be read.
+    void draw(const irr::core::rect<int>& panel, const std::vector<irr::core::rect<int>>& plates);
     irr::core::rect<int> calcRect(const RGDContent& content) const;
     const std::vector<RGDContent>& getShown() const { return shown_; }
     bool isSolving() const { return isSolving_ || isStartWanted_; }

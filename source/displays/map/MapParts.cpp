@@ -247,7 +247,7 @@ void MapParts::drawLabels() {
     if (!isShown)
         return;
     labels.update();
-    labels.draw(rect_);
+    labels.draw(rect_, controls.getPlates());
     drawer_->setViewPort(rect_);
 }
 
