@@ -5,8 +5,10 @@ import time
 
 import numpy
 
+import scans
 from cockpit import Cockpit
 from glass import Glass
+from run_tests import thorough
 from test_dials import DEMO, SIZE, dismiss_box, hold
 
 WIDTH, HEIGHT = 1280, 673  # of the panel
@@ -40,8 +42,8 @@ def metres_and_bearing(a, b):
     return 2 * RADIUS * math.asin(math.sqrt(h)), bearing
 
 
-def expected(centre, top=0.0, zoom=1.0):
-    metres, bearing = metres_and_bearing(AIRCRAFT, MARK)
+def expected(centre, top=0.0, zoom=1.0, place=MARK):
+    metres, bearing = metres_and_bearing(AIRCRAFT, place)
     pixels = metres * zoom * 720 / 83396.20525904474
     turned = bearing - math.radians(top)
     return centre[0] + pixels * math.sin(turned), centre[1] - pixels * math.cos(turned)
@@ -127,4 +129,49 @@ def test_options_of_a_map_are_written_to_its_section(build):
         with open(cockpit.path('data', 'config.ini')) as text:
             section = text.read().split('[P0]')[1]
         assert 'marks = 0' in section and 'heliports = 1' in section and 'terrainEnable = 0' in section, section
+        assert cockpit.close() == 0
+
+
+@thorough
+def test_scanned_charts_lie_where_they_belong(build):
+    """The middle of each field of the chart that the panel shows, and its corners, north up and track up."""
+    def fields(centre, top=0.0, zoom=1.0):
+        for row in range(8):
+            for column in range(8):
+                middle = dict(latitude=scans.NORTH - (row + 0.5) * scans.FIELD,
+                              longitude=scans.WEST + (column + 0.5) * scans.FIELD)
+                for north, east in ((0, 0), (0.4, 0.4), (-0.4, 0.4), (0.4, -0.4), (-0.4, -0.4)):
+                    place = dict(latitude=middle['latitude'] + north * scans.FIELD,
+                                 longitude=middle['longitude'] + east * scans.FIELD)
+                    x, y = expected(centre, top, zoom, place)
+                    is_free = 60 < x < WIDTH - 120 and 5 < y < HEIGHT - 90 and math.hypot(x - centre[0], y - centre[1]) > 40
+                    if is_free:
+                        yield int(x), int(y), scans.colour_at(**place)
+
+    with Cockpit(build, config().replace('marks = 1', 'bgType = vfr'), SIZE, prepare=scans.install(build)) as cockpit:
+        _, chart = start_map(cockpit)
+
+        def wait_for_fields(name, least, *view):
+            def are_there():
+                pixels = cockpit.look().astype(int)
+                wanted = list(fields(*view))
+                good = sum(numpy.abs(pixels[y, x] - colour).max() < 12 for x, y, colour in wanted)
+                assert len(wanted) > least, len(wanted)
+                return good == len(wanted)
+            try:
+                cockpit.wait(are_there, 10, 'the fields of the chart, ' + name)
+            finally:
+                cockpit.save(cockpit.look(), 'scan-' + name)
+
+        middle = (WIDTH / 2, HEIGHT / 2)
+        wait_for_fields('north-up', 100, middle)
+        chart.glass.click(35, HEIGHT - 35)  # the compass
+        wait_for_fields('track-up', 100, (WIDTH / 2, 0.75 * HEIGHT), HEADING)
+        chart.glass.click(35, HEIGHT - 35)
+        cockpit.key('plus')
+        cockpit.key('plus')
+        wait_for_fields('near', 30, middle, 0.0, 2.25)
+        for _ in range(6):  # far away the tiles are those that the program computed itself
+            cockpit.key('minus')
+        wait_for_fields('far', 200, middle, 0.0, 2.25 / 1.5 ** 6)
         assert cockpit.close() == 0

@@ -124,16 +124,19 @@ void MapParts::createTiles() {
 
 /// Fill, scanned charts and terrain, in the panel's viewport.
 void MapParts::drawGround() {
-    const irr::core::rect<int> panel(0, 0, rect_.getWidth(), rect_.getHeight());
-    const auto alpha = static_cast<irr::u8>(settings.transparency ? settings.transpval : 255);
-    wasBackgroundDrawn_ = background.draw(map.getChart(), view, settings.bgType, alpha);
-    if (!switches.terrainEnable)
-        return;
-    if (view.getMode() != MapMode::Dragging)
+    const bool hasTerrain = switches.terrainEnable;
+    if (hasTerrain && view.getMode() != MapMode::Dragging)
         terrain.requestIfNeeded(view);
     // From an altitude that nobody knows no ground can be told to be near; the map says so in words.
-    const bool isKnown = readings.altitudeLevel != ISensor::WRONG;
-    terrain.draw(view, isKnown ? map.getAltitude() : farAboveMetres, !wasBackgroundDrawn_);
+    const double altitude = readings.altitudeLevel != ISensor::WRONG ? map.getAltitude() : farAboveMetres;
+    // Under opaque charts for where they end; over them it only warns.
+    const bool isBelow = hasTerrain && !settings.transparency;
+    if (isBelow)
+        terrain.draw(view, altitude, true);
+    const auto alpha = static_cast<irr::u8>(settings.transparency ? settings.transpval : 255);
+    const bool isChartDrawn = background.draw(map.getChart(), view, settings.bgType, alpha);
+    if (hasTerrain && (isChartDrawn || !isBelow))
+        terrain.draw(view, altitude, !isChartDrawn);
 }
 
 void MapParts::drawDirectly() {

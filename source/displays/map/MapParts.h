@@ -87,7 +87,6 @@ private:
     TileShape wantedShape_;
     bool targetsFailed_ = false;
     bool isSetStarted_ = false;
-    bool wasBackgroundDrawn_ = false;
     double checkedAltitude_ = 0.0;
     double setStart_ = 0.0;
     double setTrack_ = 0.0; ///< What lay at the top when the last set began.
