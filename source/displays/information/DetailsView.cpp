@@ -19,6 +19,8 @@
 #include "procedures/dialogs/SearchBoxHandler.h"
 #include "procedures/framework/IProcedure.h"
 
+#include <algorithm>
+
 namespace skyvane {
 namespace {
 
@@ -33,6 +35,16 @@ int destinationOf(Context& context) {
     const IProcedure* procedure = context.getCurrentProcedure();
     return procedure->getLocationType() == ProcedureLocation::ChartElement ? procedure->getLocationChartIndex()
                                                                            : RecentRing::Empty;
+}
+
+/// A frequency is never cut, but the name before it.
+std::wstring fitRow(irr::gui::IGUIFont* font, const std::wstring& row, int room) {
+    const size_t gap = row.rfind(L"  ");
+    if (!font || gap == std::wstring::npos)
+        return row;
+    const std::wstring figure = row.substr(gap);
+    return fitText(font, row.substr(0, gap), room - static_cast<int>(font->getDimension(figure.c_str()).Width)) +
+           figure;
 }
 
 } // namespace
@@ -113,8 +125,9 @@ IChartElement* DetailsView::element() const {
 
 void DetailsView::showTitle() {
     const IChartElement* shown = isSearching_ ? nullptr : element();
-    const std::string title =
+    std::string title =
         shown ? shown->getIndicatedLabel(true, context_.getPanelManager()->isMetric()) : "Select ChartElement";
+    std::replace(title.begin(), title.end(), '\n', ' '); // the button has one line
     irr::gui::IGUIElement* button = gui_->getElement("bselect");
     irr::gui::IGUIFont* font = context_.getSkin()->getFont();
     const int room = button->getAbsolutePosition().getWidth() - button->getAbsolutePosition().getHeight() / 2;
@@ -152,7 +165,7 @@ void DetailsView::addFrequenciesToListbox(const wchar_t* heading, const std::vec
         head += L'-';
     list->addItem(head.c_str());
     for (const std::string& row : rows)
-        list->addItem(decodeUtf8(row).c_str());
+        list->addItem(fitRow(font, decodeUtf8(row), room).c_str());
 }
 
 void DetailsView::drawSketch(const irr::core::rect<int>& rect) {
