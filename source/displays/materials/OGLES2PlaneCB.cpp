@@ -1,5 +1,7 @@
 #include "displays/materials/OGLES2PlaneCB.h"
 
+#include "displays/materials/ShaderConstants.h"
+
 namespace skyvane {
 
 void OGLES2PlaneCB::OnSetMaterial(const irr::video::SMaterial& material) {
@@ -8,17 +10,12 @@ void OGLES2PlaneCB::OnSetMaterial(const irr::video::SMaterial& material) {
 }
 
 void OGLES2PlaneCB::OnSetConstants(irr::video::IMaterialRendererServices* services, irr::s32) {
-    irr::video::IVideoDriver* driver = services->getVideoDriver();
-    const irr::core::matrix4& world = driver->getTransform(irr::video::ETS_WORLD);
-    irr::core::matrix4 transform = driver->getTransform(irr::video::ETS_PROJECTION);
-    transform *= driver->getTransform(irr::video::ETS_VIEW);
-    transform *= world;
-    services->setVertexShaderConstant("uWVPMatrix", transform.pointer(), 16);
+    const irr::core::matrix4& world = services->getVideoDriver()->getTransform(irr::video::ETS_WORLD);
+    setScreenTransform(services);
     services->setVertexShaderConstant("uNMatrix", world.pointer(), 16);
     services->setVertexShaderConstant("uThickness", &thickness_, 1);
     services->setPixelShaderConstant("uDiffuseColor", &diffuse_.r, 4);
-    const irr::s32 unit = 0;
-    services->setPixelShaderConstant("uTextureUnit0", reinterpret_cast<const irr::f32*>(&unit), 1);
+    setTextureUnits(services);
 }
 
 } // namespace skyvane

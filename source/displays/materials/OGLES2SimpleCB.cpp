@@ -1,6 +1,8 @@
 #define GL_GLEXT_PROTOTYPES
 #include "displays/materials/OGLES2SimpleCB.h"
 
+#include "displays/materials/ShaderConstants.h"
+
 #include <GL/gl.h>
 #include <GL/glext.h>
 
@@ -12,15 +14,10 @@ void OGLES2SimpleCB::OnSetMaterial(const irr::video::SMaterial& material) {
 }
 
 void OGLES2SimpleCB::OnSetConstants(irr::video::IMaterialRendererServices* services, irr::s32) {
-    irr::video::IVideoDriver* driver = services->getVideoDriver();
-    irr::core::matrix4 transform = driver->getTransform(irr::video::ETS_PROJECTION);
-    transform *= driver->getTransform(irr::video::ETS_VIEW);
-    transform *= driver->getTransform(irr::video::ETS_WORLD);
-    services->setVertexShaderConstant("uWVPMatrix", transform.pointer(), 16);
+    setScreenTransform(services);
     services->setVertexShaderConstant("uThickness", &thickness_, 1);
     services->setPixelShaderConstant("uDiffuseColor", &diffuse_.r, 4);
-    const irr::s32 unit = 0;
-    services->setPixelShaderConstant("uTextureUnit0", reinterpret_cast<const irr::f32*>(&unit), 1);
+    setTextureUnits(services);
     // The engine's blending leaves too little alpha in a render target. The colour's factors are the ones that it has
     // set itself, so its own record of them stays true.
     if (blended_)

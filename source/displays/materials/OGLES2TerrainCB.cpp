@@ -1,5 +1,7 @@
 #include "displays/materials/OGLES2TerrainCB.h"
 
+#include "displays/materials/ShaderConstants.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -21,12 +23,8 @@ void OGLES2TerrainCB::setCovered(float x, float z, float halfSide, float depth) 
 }
 
 void OGLES2TerrainCB::OnSetConstants(irr::video::IMaterialRendererServices* services, irr::s32) {
-    irr::video::IVideoDriver* driver = services->getVideoDriver();
-    const irr::core::matrix4& world = driver->getTransform(irr::video::ETS_WORLD);
-    irr::core::matrix4 transform = driver->getTransform(irr::video::ETS_PROJECTION);
-    transform *= driver->getTransform(irr::video::ETS_VIEW);
-    transform *= world;
-    services->setVertexShaderConstant("uWVPMatrix", transform.pointer(), 16);
+    const irr::core::matrix4& world = services->getVideoDriver()->getTransform(irr::video::ETS_WORLD);
+    setScreenTransform(services);
     services->setVertexShaderConstant("uWMatrix", world.pointer(), 16);
     services->setVertexShaderConstant("uNMatrix", world.pointer(), 16); // it turns nothing: normals stay
     services->setVertexShaderConstant("uThickness", &thickness_, 1);
@@ -35,8 +33,7 @@ void OGLES2TerrainCB::OnSetConstants(irr::video::IMaterialRendererServices* serv
     services->setPixelShaderConstant("uMinH", &lowest_, 1);
     services->setPixelShaderConstant("uMaxH", &highest_, 1);
     services->setPixelShaderConstant("lightDir", &light_.X, 3);
-    const irr::s32 unit = 0;
-    services->setPixelShaderConstant("uTextureUnit0", reinterpret_cast<const irr::f32*>(&unit), 1);
+    setTextureUnits(services);
 }
 
 } // namespace skyvane

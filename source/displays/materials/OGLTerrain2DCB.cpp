@@ -1,6 +1,8 @@
 #define GL_GLEXT_PROTOTYPES
 #include "displays/materials/OGLTerrain2DCB.h"
 
+#include "displays/materials/ShaderConstants.h"
+
 #include "core/time/Time.h"
 
 #include <GL/gl.h>
@@ -38,11 +40,7 @@ void OGLTerrain2DCB::setImageSize(const irr::core::dimension2d<irr::u32>& size) 
 }
 
 void OGLTerrain2DCB::OnSetConstants(irr::video::IMaterialRendererServices* services, irr::s32) {
-    irr::video::IVideoDriver* driver = services->getVideoDriver();
-    irr::core::matrix4 transform = driver->getTransform(irr::video::ETS_PROJECTION);
-    transform *= driver->getTransform(irr::video::ETS_VIEW);
-    transform *= driver->getTransform(irr::video::ETS_WORLD);
-    services->setVertexShaderConstant("uWVPMatrix", transform.pointer(), 16);
+    setScreenTransform(services);
     services->setPixelShaderConstant("uMinH", &minimum_, 1);
     services->setPixelShaderConstant("uMaxH", &maximum_, 1);
     services->setPixelShaderConstant("uAltitude", &altitude_, 1);
@@ -50,10 +48,7 @@ void OGLTerrain2DCB::OnSetConstants(irr::video::IMaterialRendererServices* servi
     services->setPixelShaderConstant("uNormalAlpha", &normalAlpha_, 1);
     services->setPixelShaderConstant("uWarnAlpha", &warningAlpha_, 1);
     services->setPixelShaderConstant("uImageSize", imageSize_, 2);
-    for (const irr::s32 unit : {0, 1}) {
-        const char* const name = unit == 0 ? "uTextureUnit0" : "uTextureUnit1";
-        services->setPixelShaderConstant(name, &unit, 1);
-    }
+    setTextureUnits(services, 2);
     glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
 }
 

@@ -56,15 +56,19 @@ void ISocket::tellOnce(int errorNumber) {
     toldError_ = errorNumber;
 }
 
-int ISocket::recv(char* buffer, unsigned length, bool blocking) {
-    const int flags = MSG_NOSIGNAL | (blocking ? 0 : MSG_DONTWAIT);
-    const long count = withRestore([&] { return receiveOnce(buffer, length, flags); });
+/// Of a system call: what only means that it can't go on now counts as nothing done.
+int ISocket::resultOf(long count) {
     if (count >= 0)
         return static_cast<int>(count);
     if (isQuiet(errno))
         return 0;
     tellOnce(errno);
     return -1;
+}
+
+int ISocket::recv(char* buffer, unsigned length, bool blocking) {
+    const int flags = MSG_NOSIGNAL | (blocking ? 0 : MSG_DONTWAIT);
+    return resultOf(withRestore([&] { return receiveOnce(buffer, length, flags); }));
 }
 
 int ISocket::recvWaiting(char* buffer, unsigned length) {
@@ -75,13 +79,7 @@ int ISocket::recvWaiting(char* buffer, unsigned length) {
 }
 
 int ISocket::send(const char* bytes, unsigned length) {
-    const long count = withRestore([&] { return sendOnce(bytes, length, MSG_NOSIGNAL); });
-    if (count >= 0)
-        return static_cast<int>(count);
-    if (isQuiet(errno))
-        return 0;
-    tellOnce(errno);
-    return -1;
+    return resultOf(withRestore([&] { return sendOnce(bytes, length, MSG_NOSIGNAL); }));
 }
 
 bool ISocket::restore() {

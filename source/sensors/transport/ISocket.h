@@ -54,6 +54,7 @@ protected:
 private:
     template <class Call>
     long withRestore(Call call);
+    int resultOf(long count);
     /// Prints a failure unless the one before was the same.
     void tellOnce(int errorNumber);
 

@@ -11,8 +11,11 @@ namespace {
 
 const irr::video::SColor ndbColor(0xfffa6cff), labelColor(0xffffffff), labelBackground(0xff7a1f80);
 constexpr double largestFrequencyArea = 1.0;
+constexpr int sceneImportance = 2;
 
 } // namespace
+
+NDBRenderer::NDBRenderer(RendererParts& parts) : FixRenderer(parts, {Kind::Navaid, 1.0, ndbColor, sceneImportance}) {}
 
 void NDBRenderer::renderSketch(const IChartElement* element, const irr::core::rect<int>& rect) {
     const auto& ndb = static_cast<const NDBElement&>(*element);
@@ -35,13 +38,8 @@ void NDBRenderer::render2D(const IChartElement* element, Map2D* map, int index, 
               -120.0, map->isProcedureTarget(index)});
 }
 
-bool NDBRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,
-                                const irr::core::vector2d<int>& position) {
-    return isMouseOverSymbol(*map, element->getPosition(), navaidEdge(*map), position);
-}
-
-bool NDBRenderer::isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) {
-    return filterOf(*map, index).showsNavaid(staticBytes);
+const std::string& NDBRenderer::identOf(const IChartElement& element) const {
+    return static_cast<const NDBElement&>(element).ident;
 }
 
 } // namespace skyvane

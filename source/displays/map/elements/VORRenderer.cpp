@@ -18,6 +18,9 @@ const irr::video::SColor vorColor(0xff0000ff), roseColor(0xe00000ff), roseHalo(0
 constexpr double largestRoseArea = 1.2, largestFrequencyArea = 1.0;
 constexpr double roseSize = 3.4; ///< Times the symbol.
 
+const irr::video::SColor sceneColor(0xff7fa8ff); // lighter: the sky is blue too
+constexpr int sceneImportance = 2;
+
 const char* symbolOf(const VORElement& vor) {
     switch (vor.vorType) {
     case VORElement::Vortac:
@@ -39,6 +42,8 @@ std::string frequencyText(const VORElement& vor) {
 }
 
 } // namespace
+
+VORRenderer::VORRenderer(RendererParts& parts) : FixRenderer(parts, {Kind::Navaid, 1.0, sceneColor, sceneImportance}) {}
 
 void VORRenderer::renderSketch(const IChartElement* element, const irr::core::rect<int>& rect) {
     const auto& vor = static_cast<const VORElement&>(*element);
@@ -67,13 +72,8 @@ void VORRenderer::render2D(const IChartElement* element, Map2D* map, int index, 
              {vor.ident + frequency, labelColor, labelBackground, 0.9f, -90.0, map->isProcedureTarget(index)});
 }
 
-bool VORRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,
-                                const irr::core::vector2d<int>& position) {
-    return isMouseOverSymbol(*map, element->getPosition(), navaidEdge(*map), position);
-}
-
-bool VORRenderer::isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) {
-    return filterOf(*map, index).showsNavaid(staticBytes);
+const std::string& VORRenderer::identOf(const IChartElement& element) const {
+    return static_cast<const VORElement&>(element).ident;
 }
 
 } // namespace skyvane

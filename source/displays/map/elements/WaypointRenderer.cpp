@@ -10,6 +10,7 @@ namespace skyvane {
 namespace {
 
 const irr::video::SColor fixColor(0xff33f8ff), reportingColor(0xffffffff), labelBackground(0xff12303a);
+constexpr int sceneImportance = 1;
 constexpr int namedPriority = 102310, plainPriority = 101910;
 constexpr double namedSize = 0.8, plainSize = 0.5; ///< Times the usual symbol.
 
@@ -21,6 +22,9 @@ const char* symbolOf(const WaypointElement& waypoint) {
 }
 
 } // namespace
+
+WaypointRenderer::WaypointRenderer(RendererParts& parts)
+    : FixRenderer(parts, {Kind::Waypoint, namedSize, fixColor, sceneImportance}) {}
 
 void WaypointRenderer::renderSketch(const IChartElement* element, const irr::core::rect<int>& rect) {
     const auto& waypoint = static_cast<const WaypointElement&>(*element);
@@ -44,17 +48,12 @@ void WaypointRenderer::render2D(const IChartElement* element, Map2D* map, int in
         addLabel(*map, index, waypoint.position, edge, {waypoint.ident, color, labelBackground, 0.8f, 60.0, isTarget});
 }
 
-bool WaypointRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,
-                                     const irr::core::vector2d<int>& position) {
-    return isMouseOverSymbol(*map, element->getPosition(), namedSize * navaidEdge(*map), position);
-}
-
 int WaypointRenderer::getSelectPriority(const IChartElement* element) {
     return static_cast<const WaypointElement&>(*element).isPublic ? namedPriority : plainPriority;
 }
 
-bool WaypointRenderer::isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) {
-    return filterOf(*map, index).showsWaypoint(staticBytes);
+const std::string& WaypointRenderer::identOf(const IChartElement& element) const {
+    return static_cast<const WaypointElement&>(element).ident;
 }
 
 } // namespace skyvane
