@@ -160,8 +160,7 @@ void InputSystem::placeChangeKey() {
     const int height = keyHeight(screen, context_->getRecommendedButtonHeight(), changeKeyRows);
     const int width = std::max(height, context_->getRecommendedButtonWidth());
     const recti cover = current().getCover();
-    const int bottom =
-        hasArea(cover) && cover.UpperLeftCorner.X < width ? cover.UpperLeftCorner.Y : screen.Height;
+    const int bottom = hasArea(cover) && cover.UpperLeftCorner.X < width ? cover.UpperLeftCorner.Y : screen.Height;
     changeKey_ = std::make_unique<TouchKey>(context_, 0, 0, irr::KEY_KEY_CODES_COUNT,
                                             recti(0, bottom - height, width, bottom), changeImage_.get());
 }
