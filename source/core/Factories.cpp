@@ -2,7 +2,10 @@
 
 #include "core/Context.h"
 #include "displays/PanelManager.h"
+#include "displays/information/CheckListPanelFactory.h"
 #include "displays/information/DetailsPanelFactory.h"
+#include "displays/information/GlideInfoPanelFactory.h"
+#include "displays/information/GliderPanelFactory.h"
 #include "displays/instruments/AltimeterFactory.h"
 #include "displays/instruments/AttitudeIndicatorFactory.h"
 #include "displays/instruments/BatteryPanelFactory.h"
@@ -99,11 +102,11 @@ void registerPanelFactories(Context& context, PanelManager& panels) {
     panels.addPanelFactory(std::make_unique<SlipIndicatorFactory>(&context));
     panels.addPanelFactory(std::make_unique<GMeterFactory>(&context));
     panels.addPanelFactory(std::make_unique<BatteryPanelFactory>(&context));
-    panels.addPanelFactory(nullptr); // CheckListPanelFactory
-    panels.addPanelFactory(nullptr); // GliderPanelFactory
+    panels.addPanelFactory(std::make_unique<CheckListPanelFactory>(&context));
+    panels.addPanelFactory(std::make_unique<GliderPanelFactory>(&context));
     panels.addPanelFactory(std::make_unique<DetailsPanelFactory>(&context));
     panels.addPanelFactory(nullptr); // SideViewPanelFactory
-    panels.addPanelFactory(nullptr); // GlideInfoPanelFactory
+    panels.addPanelFactory(std::make_unique<GlideInfoPanelFactory>(&context));
 }
 
 void registerProcedureFactories(Context& context, ProcedureManager& procedures) {

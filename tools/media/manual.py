@@ -19,7 +19,9 @@ from cockpit import Cockpit, end  # noqa: E402
 from dials import panel_area  # noqa: E402
 from glass import Glass  # noqa: E402
 from islands import install  # noqa: E402
+from test_checklists import CHECKLISTS, Lists  # noqa: E402
 from test_flightplan import PLAN, START, WHERE, Plan, prepare  # noqa: E402
+from test_glide import GLIDE, INFORMATION, TABLE_PANEL, Glider, pages, prepare as prepare_glide  # noqa: E402
 from test_links import SIMULATOR  # noqa: E402
 from test_profiles import Screen, asking, wait_for_screen  # noqa: E402
 from test_touch import Fingers  # noqa: E402
@@ -154,6 +156,42 @@ def scene_plan():
         plan.press(WHERE, 'bstart', plan.high)
         time.sleep(1)
         keep(cockpit.look(), 'simulator')
+
+
+def scene_glide():
+    """The two glide computers on the way to an airport of the islands."""
+    panels = [(INFORMATION, ''), (TABLE_PANEL, '')]
+    with Cockpit(sys.argv[1], pages(SIZE, panels), SIZE, prepare=prepare_glide(sys.argv[1])) as cockpit:
+        glider = Glider(cockpit)
+        cockpit.feed('--hold', '--state', ','.join('%s=%s' % item for item in dict(GLIDE, vs_fpm=-520).items()))
+        time.sleep(2)
+        glider.load(0, 1)
+        glider.press(PLAN, 'bclose', glider.low)
+        time.sleep(1)
+        keep(cockpit.look()[:panel_area(SIZE)[1]], 'glideinfo', 500)
+        glider.next_page()
+        time.sleep(1)
+        keep(cockpit.look()[:panel_area(SIZE)[1]], 'glider', 600)
+
+
+CHECKLIST = ('L0 = Doors\\ closed\\ and\\ locked|Fuel\\ selector\\ both|Brakes\\ set|Mixture\\ rich|Master\\ switch\\ on|'
+             'Beacon\\ on|Starter\\ at\\ most\\ 10\\ s,\\ then\\ wait\\ half\\ a\\ minute|Oil\\ pressure\\ in\\ the\\ green\n'
+             'L0.Name = Engine\\ start\n')
+
+
+def scene_checklist():
+    def fill(home):
+        path = os.path.join(home, 'data/aircrafts.ini')
+        with open(path) as document:
+            text = document.read()
+        with open(path, 'w') as document:
+            document.write(text.replace('ListCount = 0\n', 'ListCount = 1\n' + CHECKLIST))
+    with Cockpit(sys.argv[1], pages(SIZE, [(CHECKLISTS, '')]), SIZE, prepare=fill) as cockpit:
+        lists = Lists(cockpit)
+        for number in (0, 1, 3):
+            lists.click(*lists.item(number))
+        time.sleep(0.5)
+        keep(cockpit.look()[:panel_area(SIZE)[1]], 'checklist', 700)
 
 
 def scene_keys():

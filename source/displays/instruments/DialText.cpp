@@ -46,4 +46,16 @@ float DialText::calcScale() const {
     return sample_ ? std::min(fitting, sampleScale_) : fitting;
 }
 
+void drawFittedText(FlexibleFont* font, const wchar_t* text, const irr::core::rect<int>& box,
+                    irr::video::SColor color) {
+    if (box.getWidth() < 1 || box.getHeight() < 1)
+        return;
+    const irr::core::vector2d<float> before = font->getDefaultScale();
+    const float scale = font->calculateOptimalScale(
+        text, {static_cast<irr::u32>(box.getWidth()), static_cast<irr::u32>(box.getHeight())});
+    font->setDefaultScale({scale, scale});
+    font->draw(text, box, color, true, true);
+    font->setDefaultScale(before);
+}
+
 } // namespace skyvane

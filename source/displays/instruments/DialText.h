@@ -34,4 +34,7 @@ private:
     float scale_ = 1.0f;
 };
 
+/// A text as large as its box allows, for what is drawn now and then: it may allocate. Nothing in an empty box.
+void drawFittedText(FlexibleFont* font, const wchar_t* text, const irr::core::rect<int>& box, irr::video::SColor color);
+
 } // namespace skyvane

@@ -17,10 +17,6 @@ namespace skyvane {
 
 namespace {
 
-int rimOf(const irr::core::rect<int>& rect) {
-    return std::max(1, std::min(rect.getWidth(), rect.getHeight()) / 22);
-}
-
 irr::core::rect<int> shrunk(const irr::core::rect<int>& rect, int by) {
     return {rect.UpperLeftCorner.X + by, rect.UpperLeftCorner.Y + by, rect.LowerRightCorner.X - by,
             rect.LowerRightCorner.Y - by};
@@ -28,16 +24,16 @@ irr::core::rect<int> shrunk(const irr::core::rect<int>& rect, int by) {
 
 /// What lies within the rim, with a margin to both sides.
 irr::core::rect<int> textBox(const irr::core::rect<int>& rect) {
-    irr::core::rect<int> box = shrunk(rect, 2 * rimOf(rect));
-    box.UpperLeftCorner.X += rimOf(rect);
-    box.LowerRightCorner.X -= rimOf(rect);
+    irr::core::rect<int> box = shrunk(rect, 2 * SegmentBackground::rimOf(rect));
+    box.UpperLeftCorner.X += SegmentBackground::rimOf(rect);
+    box.LowerRightCorner.X -= SegmentBackground::rimOf(rect);
     return box;
 }
 
 /// Not so wide that the arms lie down.
 irr::core::rect<int> crossBox(const irr::core::rect<int>& rect) {
     constexpr float widest = 2.2f;
-    const irr::core::rect<int> inside = shrunk(rect, 2 * rimOf(rect));
+    const irr::core::rect<int> inside = shrunk(rect, 2 * SegmentBackground::rimOf(rect));
     return inside.getWidth() > widest * inside.getHeight() ? makeXic(inside, widest) : inside;
 }
 
@@ -82,15 +78,6 @@ SegmentSources OneSegmentPanel::gatherSources() const {
     return sources;
 }
 
-void OneSegmentPanel::drawGround(const irr::core::rect<int>& rect, DialFlag flag) const {
-    if (flag == DialFlag::Good) {
-        background_.draw(rect, color_);
-        return;
-    }
-    background_.draw(rect, DialFlagView::flagColor(flag));
-    background_.draw(shrunk(rect, 1 + rimOf(rect)), color_);
-}
-
 void OneSegmentPanel::render(irr::core::rect<int> rect) {
     FlexibleFont* font = context_->getFlexibleFont();
     if (!font || !background_) {
@@ -98,7 +85,7 @@ void OneSegmentPanel::render(irr::core::rect<int> rect) {
         return;
     }
     const SegmentReading reading = reader_.read(gatherSources());
-    drawGround(rect, reading.flag);
+    background_.draw(rect, color_, reading.flag);
     if (reading.flag == DialFlag::Failed)
         flagView_.drawCross(crossBox(rect));
     context_->getDrawer()->flush();

@@ -29,7 +29,6 @@ public:
 
 private:
     SegmentSources gatherSources() const;
-    void drawGround(const irr::core::rect<int>& rect, DialFlag flag) const;
 
     irr::video::SColor color_;
     SegmentType type_;

@@ -4,25 +4,14 @@
 #include "core/ini/IniFile.h"
 #include "displays/drawing/Drawer2D.h"
 #include "displays/gauges/PanelColor.h"
+#include "displays/instruments/DialText.h"
 #include "displays/instruments/OneSegmentPanel.h"
-#include "gui/font/FlexibleFont.h"
 
 namespace skyvane {
 
 namespace {
 
 constexpr uint32_t standardColor = 0xff000080;
-
-void drawFitted(FlexibleFont* font, const wchar_t* text, const irr::core::rect<int>& box, irr::video::SColor color) {
-    if (box.getWidth() < 1 || box.getHeight() < 1)
-        return;
-    const irr::core::vector2d<float> before = font->getDefaultScale();
-    const float scale = font->calculateOptimalScale(
-        text, {static_cast<irr::u32>(box.getWidth()), static_cast<irr::u32>(box.getHeight())});
-    font->setDefaultScale({scale, scale});
-    font->draw(text, box, color, true, true);
-    font->setDefaultScale(before);
-}
 
 } // namespace
 
@@ -44,8 +33,9 @@ void OneSegmentPanelFactory::renderPreview(irr::core::rect<int> rect) {
         return;
     previewGround_->draw(rect, color_);
     context()->getDrawer()->flush();
-    drawFitted(font, segmentPreviewLabel(type_), OneSegmentPanel::upperHalf(rect), OneSegmentPanel::labelColor(color_));
-    drawFitted(font, L"---", OneSegmentPanel::lowerHalf(rect), irr::video::SColor(0xffffffff));
+    drawFittedText(font, segmentPreviewLabel(type_), OneSegmentPanel::upperHalf(rect),
+                   OneSegmentPanel::labelColor(color_));
+    drawFittedText(font, L"---", OneSegmentPanel::lowerHalf(rect), irr::video::SColor(0xffffffff));
 }
 
 } // namespace skyvane

@@ -1,6 +1,7 @@
 #include "displays/instruments/SegmentBackground.h"
 
 #include "displays/drawing/Drawer2D.h"
+#include "displays/instruments/DialFlagView.h"
 
 #include <algorithm>
 
@@ -35,6 +36,20 @@ void SegmentBackground::draw(const irr::core::rect<int>& rect, irr::video::SColo
     }
     drawer_->setTextureCoordinates(nullptr);
     drawer_->setColor(irr::video::SColor(0xffffffff));
+}
+
+int SegmentBackground::rimOf(const irr::core::rect<int>& rect) {
+    return std::max(1, std::min(rect.getWidth(), rect.getHeight()) / 22);
+}
+
+void SegmentBackground::draw(const irr::core::rect<int>& rect, irr::video::SColor color, DialFlag flag) const {
+    if (flag == DialFlag::Good)
+        return draw(rect, color);
+    const int rim = 1 + rimOf(rect);
+    draw(rect, DialFlagView::flagColor(flag));
+    draw({rect.UpperLeftCorner.X + rim, rect.UpperLeftCorner.Y + rim, rect.LowerRightCorner.X - rim,
+          rect.LowerRightCorner.Y - rim},
+         color);
 }
 
 } // namespace skyvane

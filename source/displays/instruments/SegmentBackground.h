@@ -1,5 +1,6 @@
 #pragma once
 
+#include "displays/gauges/DialFlag.h"
 #include "displays/instruments/PanelTexture.h"
 
 #include <irrlicht.h>
@@ -17,6 +18,10 @@ public:
     explicit operator bool() const { return static_cast<bool>(texture_); }
     /// Tinted. Nothing without its image.
     void draw(const irr::core::rect<int>& rect, irr::video::SColor color) const;
+    /// The same with a rim in the flag's colour, unless all is good.
+    void draw(const irr::core::rect<int>& rect, irr::video::SColor color, DialFlag flag) const;
+    /// How wide that rim is.
+    static int rimOf(const irr::core::rect<int>& rect);
 
 private:
     Drawer2D* drawer_;

@@ -7,6 +7,7 @@ namespace {
 
 /// As behind a message box.
 const irr::video::SColor dimming(0x40000000);
+constexpr int numberId = -2; // by which the keys on the screen are chosen
 
 irr::gui::IGUIElement* rootOf(irr::IrrlichtDevice* device) {
     return device->getGUIEnvironment()->getRootGUIElement();
@@ -21,6 +22,8 @@ EditBoxDialog::EditBoxDialog(IEditBoxDialogCallback* callback, irr::IrrlichtDevi
       callback_(callback), options_(options), formerFocus_(Environment),
       dialog_(addInputDialog(Environment, title, text, standard, this)) {
     dialog_.edit->setPasswordBox(options_.isPassword, options_.passwordCharacter);
+    if (options_.isNumber)
+        dialog_.edit->setID(numberId);
     if (!options_.hint.empty())
         addHint();
 }

@@ -28,6 +28,7 @@ public:
         bool allowEmpty = true;  ///< Else "Ok" waits until something is entered.
         bool isPassword = false; ///< Shows `passwordCharacter` for each character.
         wchar_t passwordCharacter = L'*';
+        bool isNumber = false; ///< The keys on the screen are those for numbers.
     };
 
     /// The callback, which may be null, outlives the dialog.

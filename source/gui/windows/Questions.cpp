@@ -79,6 +79,16 @@ void waitFor(Context& context, Dialog& dialog, irr::gui::IGUIButton* back, const
         removeWindow(&dialog);
 }
 
+std::optional<std::wstring> askInDialog(Context& context, const std::wstring& title, const std::wstring& text,
+                                        const std::wstring& standard, EditBoxDialog::Options options) {
+    Entry entry;
+    options.allowEmpty = false;
+    const auto dialog = EngineRef<EditBoxDialog>::adopt(
+        new EditBoxDialog(&entry, context.getIrrlichtDevice(), title, text, standard, options));
+    waitFor(context, *dialog, dialog->getCancelButton(), [&entry] { return entry.isOpen(); });
+    return entry.getText();
+}
+
 } // namespace
 
 bool askInBox(Context& context, const std::wstring& text, const std::wstring& positive, const std::wstring& negative) {
@@ -95,13 +105,15 @@ void tellInBox(Context& context, const std::wstring& text) {
 
 std::optional<std::wstring> askForText(Context& context, const std::wstring& title, const std::wstring& text,
                                        const std::wstring& standard) {
-    Entry entry;
+    return askInDialog(context, title, text, standard, {});
+}
+
+std::optional<std::wstring> askForNumber(Context& context, const std::wstring& title, const std::wstring& text,
+                                         const std::wstring& standard, const std::wstring& example) {
     EditBoxDialog::Options options;
-    options.allowEmpty = false;
-    const auto dialog = EngineRef<EditBoxDialog>::adopt(
-        new EditBoxDialog(&entry, context.getIrrlichtDevice(), title, text, standard, options));
-    waitFor(context, *dialog, dialog->getCancelButton(), [&entry] { return entry.isOpen(); });
-    return entry.getText();
+    options.hint = example;
+    options.isNumber = true;
+    return askInDialog(context, title, text, standard, options);
 }
 
 } // namespace skyvane

@@ -19,4 +19,8 @@ void tellInBox(Context& context, const std::wstring& text);
 std::optional<std::wstring> askForText(Context& context, const std::wstring& title, const std::wstring& text,
                                        const std::wstring& standard);
 
+/// The same for a number, with a line below the edit box that shows an example. Whatever was typed comes back.
+std::optional<std::wstring> askForNumber(Context& context, const std::wstring& title, const std::wstring& text,
+                                         const std::wstring& standard, const std::wstring& example);
+
 } // namespace skyvane

@@ -16,10 +16,12 @@ AircraftManager::AircraftManager(Context* context) : context_(context) {
 }
 
 void AircraftManager::extractIniValues() {
+    ++revision_;
     profiles_.read(IniFile(context_->getPath(documentPath)));
 }
 
 void AircraftManager::saveAircrafts() {
+    ++revision_;
     const std::string path = context_->getPath(documentPath);
     if (!profiles_.save(path))
         context_->showMessageBox("The aircraft could not be saved to " + path);

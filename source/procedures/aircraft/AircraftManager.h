@@ -27,6 +27,8 @@ public:
     void extractIniValues();
     /// On failure a box tells it.
     void saveAircrafts();
+    /// Another number after each reading and saving: whoever shows aircraft looks at it.
+    unsigned getRevision() const { return revision_; }
 
     /// Shows the screen until the pilot leaves it.
     void setSetupVisible();
@@ -34,6 +36,7 @@ public:
 private:
     Context* context_;
     AircraftProfiles profiles_;
+    unsigned revision_ = 0;
 };
 
 } // namespace skyvane

@@ -74,28 +74,19 @@ std::vector<std::string> CheckListScreen::names() {
 }
 
 void CheckListScreen::onNew() {
-    CheckList list;
-    if (!editCheckList(context_, list))
-        return;
-    const int index = aircraft().createCheckList();
-    *aircraft().getCheckList(index) = std::move(list);
-    aircrafts_.saveAircrafts();
-    refresh(index);
+    const int index = addCheckList(context_, aircrafts_, index_);
+    if (index >= 0)
+        refresh(index);
 }
 
 void CheckListScreen::onEdit(int index) {
-    if (!editCheckList(context_, *aircraft().getCheckList(index)))
-        return;
-    aircrafts_.saveAircrafts();
-    refresh(index);
+    if (editCheckList(context_, aircrafts_, index_, index))
+        refresh(index);
 }
 
 void CheckListScreen::onDelete(int index) {
-    if (!askYesNo(context_, L"Do you really want to delete the selected Checklist?"))
-        return;
-    aircraft().removeCheckList(index);
-    aircrafts_.saveAircrafts();
-    refresh(aircraft().getCheckListCount() > 0 ? 0 : -1);
+    if (removeCheckList(context_, aircrafts_, index_, index))
+        refresh(aircraft().getCheckListCount() > 0 ? 0 : -1);
 }
 
 } // namespace skyvane

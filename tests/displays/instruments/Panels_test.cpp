@@ -8,8 +8,10 @@
 #include "sensors/records/Acceleration_Data.h"
 #include "sensors/records/Altitude_Data.h"
 #include "sensors/records/GPS_Data.h"
+#include "sensors/records/GroundSpeed_Data.h"
 #include "sensors/records/Heading_Data.h"
 #include "sensors/records/TurnRate_Data.h"
+#include "sensors/records/VerticalSpeed_Data.h"
 #include "support/AllocationCounter.h"
 #include "support/GlDevice.h"
 #include "support/SourceFolder.h"
@@ -25,7 +27,7 @@ namespace {
 
 using irr::core::rect;
 
-enum Place { Turn = 1, Field = 6, Lamp = 7, Slip = 10, Load = 11, Battery = 12 };
+enum Place { Turn = 1, Field = 6, Lamp = 7, Slip = 10, Load = 11, Battery = 12, Glider = 14, GlideInfo = 17 };
 
 /// Panels as their factories make them, in the real context, fed by one sensor that a test writes to.
 class PanelsTest : public testing::Test {
@@ -63,7 +65,8 @@ protected:
         addStandardDataFactories(sensors);
         sensors.addSensorFactory(std::make_unique<FakeSensorFactory>());
         IniFile ini;
-        ini.setFromString("SensorCount = 2\nD0 = 1\nD2 = 1\nD3 = 1\nD5 = 1\nD8 = 1\n[S1]\nFactoryIndex = 0\n");
+        ini.setFromString("SensorCount = 2\nD0 = 1\nD2 = 1\nD3 = 1\nD4 = 1\nD5 = 1\nD6 = 1\nD7 = 1\nD8 = "
+                          "1\n[S1]\nFactoryIndex = 0\n");
         sensors.loadSensorSettingsFromIni(&ini, false);
         sensor = dynamic_cast<FakeSensor*>(sensors.getSensorInterface(1));
         ASSERT_NE(sensor, nullptr);
@@ -71,6 +74,8 @@ protected:
         sensor->put<TurnRate_Data>(ISensorData::TurnRate, -3.0, 1u);
         sensor->put<Acceleration_Data>(ISensorData::Acceleration, 1.5, -14.0, 0.0, 1u);
         sensor->put<Altitude_Data>(ISensorData::Altitude, 1000.0, 1u);
+        sensor->put<GroundSpeed_Data>(ISensorData::GroundSpeed, 90.0, 1u);
+        sensor->put<VerticalSpeed_Data>(ISensorData::VerticalSpeed, -2.0, 1u);
     }
     IPanel& add(Place place, const rect<int>& area, const std::string& type = "") {
         IPanelFactory& factory = *context->getPanelManager()->getPanelFactories().at(static_cast<size_t>(place));
@@ -93,6 +98,8 @@ protected:
         add(Lamp, {420, 110, 480, 160});
         add(Field, {0, 160, 120, 240}, "DATE");
         add(Lamp, {120, 160, 200, 240}, "SPEED");
+        add(Glider, {200, 160, 340, 320});
+        add(GlideInfo, {340, 160, 480, 240});
     }
     void drawPanels() {
         for (size_t i = 0; i < panels.size(); ++i)
@@ -138,17 +145,17 @@ protected:
 TEST_F(PanelsTest, trustIsSeenOnEveryPanelWithAValue) {
     addAll();
     frame("good.png");
-    for (int i : {0, 1, 2, 3, 4})
+    for (int i : {0, 1, 2, 3, 4, 9, 10})
         EXPECT_EQ(share(areas[i], isRed), 0.0) << i;
     sensor->level = ISensor::MAYBE_WRONG;
     frame("doubtful.png");
-    for (int i : {0, 1, 2, 3, 4}) {
+    for (int i : {0, 1, 2, 3, 4, 9, 10}) {
         EXPECT_GT(share(areas[i], isYellow), 0.01) << i;
         EXPECT_EQ(share(areas[i], isRed), 0.0) << i;
     }
     sensor->level = ISensor::WRONG;
     frame("failed.png");
-    for (int i : {0, 1, 2, 3, 4, 7})
+    for (int i : {0, 1, 2, 3, 4, 7, 9, 10})
         EXPECT_GT(share(areas[i], isRed), 0.01) << i;
 }
 
@@ -224,18 +231,18 @@ TEST_F(PanelsTest, previewsAreDrawn) {
     const auto isLit = [](irr::video::SColor c) { return c.getRed() + c.getGreen() + c.getBlue() > 300; };
     gl.begin();
     int x = 0;
-    for (Place place : {Turn, Field, Lamp, Slip, Load, Battery}) {
+    for (Place place : {Turn, Field, Lamp, Slip, Load, Battery, Glider, GlideInfo}) {
         IPanelFactory& factory = *context->getPanelManager()->getPanelFactories().at(static_cast<size_t>(place));
         IniFile ini;
         factory.loadSetupFromIni(&ini, "P0");
-        factory.renderPreview({x, 0, x + 80, 80});
-        x += 80;
+        factory.renderPreview({x, 0, x + 60, 60});
+        x += 60;
     }
     context->getDrawer()->flush();
     gl.end();
     gl.savePicture("previews.png");
-    for (x = 0; x < width; x += 80)
-        EXPECT_GT(share({x, 0, x + 80, 80}, isLit), 0.02) << x;
+    for (x = 0; x < width; x += 60)
+        EXPECT_GT(share({x, 0, x + 60, 60}, isLit), 0.02) << x;
 }
 
 } // namespace
