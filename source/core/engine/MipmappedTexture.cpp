@@ -1,6 +1,7 @@
 #include "core/engine/MipmappedTexture.h"
 
-#include "core/bytes/ByteReader.h"
+#include "core/files/Paths.h"
+#include "core/files/PngHead.h"
 #include "core/geometry/MipmapChain.h"
 #include "core/log/Logger.h"
 
@@ -13,25 +14,22 @@ using irr::video::ITexture;
 
 namespace {
 
-/// Its bytes may be anybody's, and the engine allocates what they claim.
-bool isTooLargePng(const std::string& path) {
-    constexpr uint64_t signature = 0x89504e470d0a1a0a;
+/// Its bytes may be anybody's. The engine would take any of its formats by any name, and allocates what they claim.
+bool isUsablePng(const std::string& path) {
     constexpr uint32_t longestSide = 8192;
-    uint8_t head[24] = {};
-    std::ifstream(path, std::ios::binary).read(reinterpret_cast<char*>(head), sizeof head);
-    ByteReader reader(head, sizeof head);
-    if (reader.big<uint64_t>() != signature)
-        return false;
-    reader.big<uint64_t>(); // length and name of the first chunk
-    const auto width = reader.big<uint32_t>(), height = reader.big<uint32_t>();
-    return width > longestSide || height > longestSide;
+    uint8_t bytes[PngHead::Bytes] = {};
+    std::ifstream(path, std::ios::binary).read(reinterpret_cast<char*>(bytes), sizeof bytes);
+    ByteReader reader(bytes, sizeof bytes);
+    const std::optional<PngHead> head = readPngHead(reader);
+    return head && head->width <= longestSide && head->height <= longestSide;
 }
 
 } // namespace
 
 EngineRef<IImage> readArgbImage(irr::video::IVideoDriver* driver, const std::string& path) {
-    if (isTooLargePng(path)) {
-        logText("Too large for a picture: " + path + "\n");
+    if (!isUsablePng(path)) {
+        if (fileExist(path))
+            logText("No picture, or one that is too large: " + path + "\n");
         return {};
     }
     auto image = EngineRef<IImage>::adopt(driver->createImageFromFile(path.c_str()));

@@ -7,7 +7,8 @@
 
 namespace skyvane {
 
-/// A picture file in the format A8R8G8B8; null when it can't be read, or claims to be larger than any of ours.
+/// A PNG file in the format A8R8G8B8; null when it can't be read, is of another kind whatever its name says, or claims
+/// to be larger than any of ours.
 EngineRef<irr::video::IImage> readArgbImage(irr::video::IVideoDriver* driver, const std::string& path);
 
 /// The driver's texture of a picture file, with its smaller copies made here; null when the file can't be read.

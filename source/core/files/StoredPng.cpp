@@ -1,6 +1,6 @@
 #include "core/files/StoredPng.h"
 
-#include "core/bytes/ByteReader.h"
+#include "core/files/PngHead.h"
 
 #include <algorithm>
 
@@ -99,20 +99,16 @@ void orderRow(uint32_t* pixels, uint32_t width) {
 } // namespace
 
 StoredPng::StoredPng(const uint8_t* bytes, size_t size) : chunks_(bytes), size_(size) {
-    constexpr uint64_t signature = 0x89504e470d0a1a0a, head = 0x0000000d49484452;
-    constexpr uint64_t plainRgba = 0x0806000000; // depth, colours, compression, filter, interlace
+    constexpr uint64_t plainRgba = 0x0806000000;
     ByteReader reader(bytes, size);
-    const bool isPicture = reader.big<uint64_t>() == signature && reader.big<uint64_t>() == head;
-    const auto width = reader.big<uint32_t>(), height = reader.big<uint32_t>();
-    const uint64_t form = uint64_t{reader.big<uint32_t>()} << 8 | reader.big<uint8_t>();
-    reader.big<uint32_t>(); // checksum
-    if (!isPicture || reader.fail() || form != plainRgba || width == 0 || height == 0 || width > LongestSide ||
-        height > LongestSide || (uint64_t{width} * PixelBytes + 1) * height > reader.remaining())
+    const std::optional<PngHead> head = readPngHead(reader);
+    if (!head || head->form != plainRgba || head->width > LongestSide || head->height > LongestSide ||
+        (uint64_t{head->width} * PixelBytes + 1) * head->height > reader.remaining())
         return;
     chunks_ = bytes + (size - reader.remaining());
     size_ = reader.remaining();
-    width_ = width;
-    height_ = height;
+    width_ = head->width;
+    height_ = head->height;
 }
 
 bool StoredPng::copyPixels(uint32_t* pixels) const {

@@ -14,6 +14,11 @@ irr::video::ITexture* load(ICommonAppContext& context, const std::string& image)
                          : loadMipmappedTexture(context.getIrrlichtDevice()->getVideoDriver(), context.getPath(image));
 }
 
+/// The engine's enumeration and ours number the same keys.
+bool isKey(const TouchKey& key, KeyCode code) {
+    return static_cast<int>(key.getKeyCode()) == code;
+}
+
 } // namespace
 
 TouchKeys::TouchKeys(ICommonAppContext* context)
@@ -42,11 +47,11 @@ bool TouchKeys::process(const irr::SEvent::SMouseInput& mouse) {
 void TouchKeys::send(const TouchKey& key) {
     const irr::SEvent event = key.getEvent();
     context_->getIrrlichtDevice()->postEventFromUser(event);
-    if (key.getKeyCode() != ShiftKey)
+    if (!isKey(key, ShiftKey))
         setShift(false);
     else if (!event.KeyInput.PressedDown)
         setShift(!shift_);
-    if (key.getKeyCode() == EnterKey && !event.KeyInput.PressedDown)
+    if (isKey(key, EnterKey) && !event.KeyInput.PressedDown)
         leaveFinishedBox();
 }
 
@@ -66,7 +71,7 @@ void TouchKeys::setShift(bool pressed) {
     shift_ = pressed;
     for (const std::unique_ptr<TouchKey>& key : keys_) {
         key->setShiftPressed(shift_);
-        if (key->getKeyCode() == ShiftKey)
+        if (isKey(*key, ShiftKey))
             key->setOverrideTexture(shift_ ? shiftOn_.get() : nullptr);
     }
 }

@@ -36,7 +36,7 @@ TEST(PageNames, StayWithinTheFolder) {
 
 TEST(PictureHeader, TellsSizesThatCanBeShown) {
     using Size = irr::core::dimension2d<irr::u32>;
-    const std::string head("\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR\0\0\x10\0\0\0\0\x07", 24);
+    const std::string head("\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR\0\0\x10\0\0\0\0\x07\x08\6\0\0\0\1\2\3\4", 33);
     EXPECT_EQ(Size(4096, 7), readPictureSize(head));
     std::string larger = head;
     larger[19] = 1;
