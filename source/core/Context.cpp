@@ -164,6 +164,8 @@ void Context::loadSettings(IniFile& config, IProgressCallback& progress) {
     sensors_->loadSensorSettingsFromIni(&config, asks);
     progress.nextStep();
     panels_->loadPanelSettingsFromIni(&config, &progress, true, false);
+    if (config.isAvailable("", "startPlan") && !config.get("", "startPlan").empty())
+        procedures_->startWithFlightPlan(config.get("", "startPlan"));
     progress.nextStep();
 }
 

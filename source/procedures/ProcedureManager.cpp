@@ -148,6 +148,7 @@ bool ProcedureManager::calculateCourseList() {
     PanelManager* panels = context_->getPanelManager();
     panels->OnProcedureNodesDelete();
     const FlightReadings readings = readFlight(*context_->getSensorManager());
+    awaitsPosition_ = awaitsPosition_ && !readings.isPlaced();
     if (readings.isPlaced())
         plan_.calculateCourseLists(*readings.position, *readings.altitude, readings.heading.value_or(0.0));
     notifyChanged();
@@ -158,6 +159,8 @@ bool ProcedureManager::calculateCourseList() {
 
 void ProcedureManager::Update(bool force) {
     const FlightReadings readings = readFlight(*context_->getSensorManager());
+    if (awaitsPosition_ && readings.isPlaced())
+        calculateCourseList();
     if (!plan_.isEmpty()) {
         constexpr double unknown = std::numeric_limits<double>::quiet_NaN();
         plan_.updatePosRelated(readings.isPlaced() ? readings.state() : AircraftMotion{{}, unknown, 0.0, 0.0});
@@ -283,6 +286,14 @@ bool ProcedureManager::retrieveFlightPlan(const std::string& name) {
     notifyChanged();
     calculateCourseList();
     return true;
+}
+
+void ProcedureManager::startWithFlightPlan(const std::string& name) {
+    awaitsPosition_ = true;
+    if (retrieveFlightPlan(name) || !losses_.empty())
+        return;
+    context_->setMessage(&saved_, "FLIGHT PLAN:\nthere is no saved plan \"" + name + "\"", MESSAGE_YELLOW,
+                         LossMilliseconds);
 }
 
 void ProcedureManager::tellLosses() {

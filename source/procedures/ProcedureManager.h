@@ -82,6 +82,9 @@ public:
     /// The saved plan becomes the plan. False, and the plan stays, without one of that name, or when nothing of it can
     /// be flown. The pilot hears of what can't be.
     bool retrieveFlightPlan(const std::string& name);
+    /// The same for the plan that a start shall begin with: its paths are made once somebody knows where the aircraft
+    /// is. The pilot hears of a name that there is no plan of.
+    void startWithFlightPlan(const std::string& name);
     /// What the last saved plan had that can't be flown.
     const std::vector<std::string>& getLosses() const { return losses_; }
     /// False when data/fpl.ini can't be written.
@@ -121,6 +124,7 @@ private:
     HighwayMesh highwayMesh_;
     HighwayMeshes meshes_;
     bool pathChanged_ = false;
+    bool awaitsPosition_ = false; ///< The paths of the plan at the start couldn't be made yet.
     unsigned lastUpdateMilliseconds_ = 0;
     std::optional<int> warnedFeet_; ///< Above the destination.
     unsigned warnedMilliseconds_ = 0;

@@ -100,6 +100,26 @@ TEST_P(ProcedureManagerTest, savesPlansAndKeepsTheOneThatIsFlown) {
     EXPECT_NEAR(manager().getCurrentProcedure()->getLocationPosition().longitude, 8.5, 1e-12);
 }
 
+TEST_P(ProcedureManagerTest, startsWithAPlanOnceThePositionIsKnown) {
+    addDirect(8.5);
+    manager().insertFlightPlan("Trip");
+    manager().deleteAllProcedures();
+    manager().startWithFlightPlan("none");
+    EXPECT_EQ(manager().getProcedureCount(), 0);
+    manager().startWithFlightPlan("Trip");
+    ASSERT_EQ(manager().getProcedureCount(), 1);
+    EXPECT_TRUE(manager().getCurrentProcedure()->getCourseList().empty()) << "nobody knows where it begins";
+    context->getSensorManager()->startSimulation(ChartPosition(8.0, 50.0), 90, 1000);
+    manager().Update(false);
+    const CourseList first = manager().getCurrentProcedure()->getCourseList();
+    ASSERT_FALSE(first.empty());
+    context->getSensorManager()->startSimulation(ChartPosition(8.1, 50.0), 90, 1000);
+    manager().Update(false);
+    EXPECT_EQ(manager().getCurrentProcedure()->getCourseList().front().position.longitude,
+              first.front().position.longitude)
+        << "not again";
+}
+
 INSTANTIATE_TEST_SUITE_P(Screens, ProcedureManagerTest, testing::Values(irr::core::dimension2du(800, 480)));
 
 } // namespace

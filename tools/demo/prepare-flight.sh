@@ -1,32 +1,63 @@
 #!/usr/bin/env bash
-# prepare-flight.sh BUILD HOME: makes a home with the standard pages, fed by a simulator, over the fictional region, which
-# is built beside it when its makers are newer.
+# prepare-flight.sh BUILD HOME [demo|flightgear|xplane]: makes a home with the standard pages over the fictional region,
+# which is built beside it when its makers are newer. Its sensor is the recorded demo flight, which is flown and recorded
+# here when it is older than its card or plan, or else a simulator.
 set -euo pipefail
 build=$(cd "$1" && pwd)
 home=$2
+source=${3:-demo}
 here=$(cd "$(dirname "$0")" && pwd)
 region=$build/region
 report=$region/ChartData/report.txt
+flight=$here/flight
+log=$build/demo-flight.dat
+chartmaker=$build/tools/chartmaker/chartmaker
+flightfeed=$build/tools/flightfeed/flightfeed
 
-if [ ! -e "$report" ] || [ "$report" -ot "$build/tools/demo/demoregion" ] ||
-    [ "$report" -ot "$build/tools/chartmaker/chartmaker" ]; then
+if [ ! -e "$report" ] || [ "$report" -ot "$build/tools/demo/demoregion" ] || [ "$report" -ot "$chartmaker" ]; then
     rm -rf "$region"
     mkdir -p "$region/Terrain"
     "$here/build-region.sh" "$build" "$region/ChartData" 1 "$region/Terrain" >"$build/region.log"
-    "$build/tools/chartmaker/chartmaker" levels "$region/Terrain" >>"$build/region.log"
+    "$chartmaker" levels "$region/Terrain" >>"$build/region.log"
     touch "$report"
 fi
 
-# The settings of the demo's dials, the panels of the standard document.
+record() {
+    for maker in "$report" "$flightfeed" "$flight/first.card" "$flight/fpl.ini"; do
+        if [ ! -e "$log" ] || [ "$log" -ot "$maker" ]; then
+            rm -f "$log"
+            "$flightfeed" --card "$flight/first.card" --plan "$flight/fpl.ini" --charts "$region/ChartData" \
+                --rate 20 --record "$log"
+            return
+        fi
+    done
+}
+
+# The settings of the demo, the panels of the standard document.
 config=$build/flight-config.ini
 standard=$here/../../source/core/files/documents/config.ini
 sed -e '/^\[P0\]/,$d' -e "s/^PanelCount = .*/$(grep '^PanelCount' "$standard")/" "$here/config.ini" >"$config"
+# What the source is: its place in the list of kinds, its name, the types of data that only it brings.
+case $source in
+demo) kind=1 name='LogFileSensor\nfileName = Over\\ Corrie\\ Pass.dat\nlevel = GOOD' types='10|15|16|17' ;;
+flightgear) kind=4 name='FlightGear\\ Flight\\ Simulator' types='none' ;;
+xplane) kind=5 name='XPlane\\ Flight\\ Simulator' types='10|12|15|16|17' ;;
+*) echo "prepare-flight.sh: \"$source\" is none of demo, flightgear, xplane" >&2 && exit 2 ;;
+esac
+sed -i -E -e "/^\[S1\]/,/^\$/{s/^FactoryIndex = .*/FactoryIndex = $kind/;s/^FactoryName = .*/FactoryName = $name/}" \
+    -e "s/^D($types) = 0\$/D\1 = 1/" "$config"
+if [ "$source" = demo ]; then # begins with the profile screen; the plan is the one that is flown
+    sed -i -e 's/^chooseProfile = .*/chooseProfile = 1\nstartPlan = Over\\ Corrie\\ Pass/' "$config"
+    record
+fi
 sed -n '/^\[P0\]/,$p' "$standard" >>"$config"
 "$here/prepare-home.sh" "$build" "$home" "$config"
 
-home=$(cd "$home" && pwd)/.Skyvane
-mkdir -p "$home"
-rm -rf "$home/ChartData" "$home/Terrain"
-cp -r "$region/ChartData" "$region/Terrain" "$home"
-rm -rf "$home/ChartData/sources"
-sed -i 's/^Vendor = .*/Vendor = Skyvane\\ demo\\ (not\\ for\\ navigation)/' "$home/../data/data.ini"
+home=$(cd "$home" && pwd)
+cp "$flight/fpl.ini" "$home/data/fpl.ini"
+rm -rf "$home/.Skyvane/ChartData" "$home/.Skyvane/Terrain"
+mkdir -p "$home/.Skyvane/Logs"
+cp -r "$region/ChartData" "$region/Terrain" "$home/.Skyvane"
+rm -rf "$home/.Skyvane/ChartData/sources"
+[ "$source" != demo ] || cp -f --reflink=auto "$log" "$home/.Skyvane/Logs/Over Corrie Pass.dat"
+sed -i 's/^Vendor = .*/Vendor = Skyvane\\ demo\\ (not\\ for\\ navigation)/' "$home/data/data.ini"

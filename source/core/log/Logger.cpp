@@ -2,6 +2,7 @@
 
 #include "core/text/Numbers.h"
 
+#include <atomic>
 #include <cstdio>
 #include <utility>
 
@@ -10,6 +11,8 @@ namespace skyvane {
 Logger* logger = nullptr;
 
 namespace {
+
+std::atomic<int> quietConsoles{0};
 
 std::string asText(const char* value) {
     return value ? value : "";
@@ -75,11 +78,19 @@ void Logger::write(const std::string& text, int flags, int file) {
 }
 
 void Logger::logStringConsole(const std::string& text) {
-    if (text.empty())
+    if (text.empty() || quietConsoles > 0)
         return;
     const std::string line = text.back() == '\n' ? text : text + '\n';
     std::fwrite(line.data(), 1, line.size(), stdout);
     std::fflush(stdout);
+}
+
+QuietConsole::QuietConsole() {
+    ++quietConsoles;
+}
+
+QuietConsole::~QuietConsole() {
+    --quietConsoles;
 }
 
 void logText(const std::string& text, int flags) {

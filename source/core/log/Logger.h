@@ -42,6 +42,15 @@ private:
     std::vector<std::ofstream> streams_;
 };
 
+/// While one lives nothing of the log goes to standard output: for tools whose output is data.
+class QuietConsole {
+public:
+    QuietConsole();
+    ~QuietConsole();
+    QuietConsole(const QuietConsole&) = delete;
+    QuietConsole& operator=(const QuietConsole&) = delete;
+};
+
 /// The process's log, null before it exists and after it has gone: logText() tests that.
 extern Logger* logger;
 

@@ -135,7 +135,7 @@ TEST_F(DemoRegion, TheSameSeedGivesTheSameBytesAndAllOfThemCompile) {
     EXPECT_NE(run.out.find("\n0 refused, 0 with a warning\n"), std::string::npos) << run.out;
     const ChartMakerRun dump({"dump", folder.path("out/Demo_Region.sci")});
     EXPECT_EQ(dump.status, 0) << dump.error;
-    for (const char* wanted : {"10 Airport", "10 Airspace", "20 Airway", "14 Waypoint", "3 VOR", "2 NDB"})
+    for (const char* wanted : {"10 Airport", "10 Airspace", "20 Airway", "22 Waypoint", "3 VOR", "2 NDB"})
         EXPECT_NE(dump.out.find(std::string("\n") + wanted + "\n"), std::string::npos) << wanted << dump.out;
     const ElementFactories factories = makeElementFactories();
     ChartStore charts(factories, {folder.path("out/"), folder.path("none/")}, 10);

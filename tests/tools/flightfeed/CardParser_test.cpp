@@ -22,16 +22,17 @@ std::string inAir(const std::string& line) {
 
 TEST(CardParser, ReadsEveryKindOfLine) {
     FlightCard card;
-    const auto errors = parseCard("# a comment\n\n"
-                                  "time 2024-02-29 23:59:58   # and another\n"
-                                  "start 42.338 1.409 elevation 2625ft heading 213\n"
-                                  "runway 42 1.5 elevation 800m course 030deg length 900m glide 4\n"
-                                  "traffic 42.1 1.4 altitude 4000ft heading 90 speed 110kt turn -3 descend 300ftmin\n"
-                                  "wind 240 15kt\nstand 2min\ntakeoff\nspeed 90kt\nclimb 500ftmin to 5000ft\n"
-                                  "turn left standard to 090\nturn right bank 30 by 720\nlevel 60s\nslip -5deg 10s\n"
-                                  "direct 42.5 1.25\nfollow 42.4 1.3 altitude 900m\nfollow 42.3 1.3\ndescend 2.5ms to "
-                                  "1000m\nland\nstand 1s\ntakeoff\r\n",
-                                  card);
+    const auto errors =
+        parseCard("# a comment\n\n"
+                  "time 2024-02-29 23:59:58   # and another\n"
+                  "start 42.338 1.409 elevation 2625ft heading 213\n"
+                  "runway 42 1.5 elevation 800m course 030deg length 900m rise 9m glide 4\n"
+                  "traffic 42.1 1.4 altitude 4000ft heading 90 speed 110kt turn -3 descend 300ftmin name SKY1\n"
+                  "wind 240 15kt\nstand 2min\ntakeoff\nspeed 90kt\nclimb 500ftmin to 5000ft\n"
+                  "turn left standard to 090\nturn right bank 30 by 720\nlevel 60s\nslip -5deg 10s\n"
+                  "direct 42.5 1.25\nfollow 42.4 1.3 altitude 900m\nfollow 42.3 1.3\ndescend 2.5ms to "
+                  "1000m\nplan\nland\nstand 1s\ntakeoff\r\n",
+                  card);
     ASSERT_TRUE(errors.empty()) << errors.front().line << errors.front().message;
     EXPECT_FALSE(card.startInAir);
     EXPECT_DOUBLE_EQ(card.startPoint.longitudeDegrees, 1.409);
@@ -40,7 +41,9 @@ TEST(CardParser, ReadsEveryKindOfLine) {
     EXPECT_DOUBLE_EQ(card.runway.glideDegrees, 4.0);
     EXPECT_DOUBLE_EQ(card.traffic.at(0).turnDegreesPerSecond, -3.0);
     EXPECT_NEAR(card.traffic.at(0).climbMetresPerSecond, -1.524, 1e-9);
-    ASSERT_EQ(card.steps.size(), 16u);
+    EXPECT_EQ(card.traffic.at(0).name, "SKY1");
+    EXPECT_DOUBLE_EQ(card.runway.riseMetres, 9.0);
+    ASSERT_EQ(card.steps.size(), 17u);
     EXPECT_DOUBLE_EQ(card.steps[1].seconds, 120.0);
     EXPECT_NEAR(card.steps[4].climbMetresPerSecond, 2.54, 1e-9);
     EXPECT_FALSE(card.steps[5].turnRight);

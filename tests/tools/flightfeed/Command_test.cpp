@@ -101,6 +101,10 @@ TEST(Options, TellsWhatDoesNotFit) {
     EXPECT_THAT(errorOf({"--protocol", "morse"}), HasSubstr("doesn't fit"));
     EXPECT_THAT(errorOf({"--hold", "--replay", "f"}), HasSubstr("exclude"));
     EXPECT_THAT(errorOf({"--state", "pitch=1"}), HasSubstr("needs --hold"));
+    EXPECT_THAT(errorOf({"--plan", "fpl.ini"}), HasSubstr("needs --charts"));
+    EXPECT_THAT(errorOf({"--plan", "fpl.ini", "--charts", "c"}), HasSubstr("a --card that flies it"));
+    EXPECT_THAT(errorOf({"--record", "f.dat", "--loop"}), HasSubstr("--loop"));
+    EXPECT_THAT(errorOf({"--record", "f.dat", "--replay", "f.csv"}), HasSubstr("--replay"));
 }
 
 TEST(HeldState, KeepsWhatWasSetAndDerivesTheRest) {

@@ -50,7 +50,7 @@ TEST(SDatSender, sendsWhatTheReceiverTakes) {
     int updated = 0;
     for (int type = 0; type < ISensorData::TypeCount; ++type)
         updated += sensor.lastTimeUpdated(static_cast<ISensorData::Type>(type)) ? 1 : 0;
-    EXPECT_EQ(updated, 13);
+    EXPECT_EQ(updated, 14);
 }
 
 } // namespace

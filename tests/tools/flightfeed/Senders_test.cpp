@@ -131,7 +131,7 @@ TEST(XPlaneSender, SendsLandingBeamsAndTrafficOnlyWhenThereAreSome) {
     state.glideslopeDots = 0.75;
     state.trafficCount = 8;
     for (size_t i = 0; i < 8; ++i)
-        state.traffic[i] = {40.0 + static_cast<double>(i), -20.0 - static_cast<double>(i), 304.8, 0.0, 0.0};
+        state.traffic[i] = {40.0 + static_cast<double>(i), -20.0 - static_cast<double>(i), 304.8, 0.0, 0.0, 0.0, ""};
     state.traffic[3].longitudeDegrees = 0.0;
     const Bytes d = sent(sender, state);
     ASSERT_LE(d.size(), 512u) << "more than the receiver's buffer holds";

@@ -16,9 +16,23 @@
 namespace skyvane {
 namespace {
 
-enum Column { Ident, Type, Name, Latitude, Longitude, Elevation, Country, Municipality, Icao, Iata, Gps, Local };
+enum Column {
+    Ident,
+    Type,
+    Name,
+    Latitude,
+    Longitude,
+    Elevation,
+    Country,
+    Municipality,
+    Icao,
+    Iata,
+    Gps,
+    Local,
+    Accuracy
+};
 const CsvTable::Columns needed{"ident", "type", "name", "latitude_deg", "longitude_deg", "elevation_ft", "iso_country"};
-const CsvTable::Columns optional{"municipality", "icao_code", "iata_code", "gps_code", "local_code"};
+const CsvTable::Columns optional{"municipality", "icao_code", "iata_code", "gps_code", "local_code", "accuracy"};
 
 /// Further from the reference point than any runway ends.
 constexpr double farthestThresholdMetres = 15000.0;
@@ -57,6 +71,7 @@ bool hasWord(const std::string& name, std::initializer_list<const char*> words) 
 }
 
 void readFlags(const CsvTable& table, AirportElement& airport) {
+    airport.accuracy = static_cast<uint8_t>(readWhole(table[Accuracy], 0, 3).value_or(0));
     airport.isClosed = table[Type] == "closed";
     airport.isHeliport = table[Type] == "heliport";
     airport.hasGliders = hasWord(airport.name, {"GLIDER", "GLIDERPORT", "GLIDING", "ULTRALIGHT", "MICROLIGHT", "ULM"});

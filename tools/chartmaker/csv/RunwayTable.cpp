@@ -19,12 +19,14 @@ namespace {
 enum Column { AirportIdent, Length, Width, SurfaceText, Lighted, Closed, FirstEnd };
 /// Of each end, from FirstEnd on.
 enum EndColumn { Ident, Latitude, Longitude, Elevation, Heading, Displacement, EndColumns };
+constexpr size_t Accuracy = FirstEnd + 2 * EndColumns;
 
 const CsvTable::Columns needed{"airport_ident", "length_ft", "width_ft", "surface", "lighted", "closed"};
-const CsvTable::Columns ofEnds{"le_ident",        "le_latitude_deg", "le_longitude_deg",
-                               "le_elevation_ft", "le_heading_degT", "le_displaced_threshold_ft",
-                               "he_ident",        "he_latitude_deg", "he_longitude_deg",
-                               "he_elevation_ft", "he_heading_degT", "he_displaced_threshold_ft"};
+const CsvTable::Columns optional{"le_ident",        "le_latitude_deg", "le_longitude_deg",
+                                 "le_elevation_ft", "le_heading_degT", "le_displaced_threshold_ft",
+                                 "he_ident",        "he_latitude_deg", "he_longitude_deg",
+                                 "he_elevation_ft", "he_heading_degT", "he_displaced_threshold_ft",
+                                 "accuracy"};
 
 constexpr int longestFeet = 60000;
 constexpr size_t mostRunways = 200;
@@ -130,6 +132,7 @@ void addRow(const CsvTable& table, const SourceContext& context, AirportRunways&
     runway.widthFeet = readFeet(table, Width, context);
     runway.surface = readSurface(table[SurfaceText]);
     runway.hasLights = table[Lighted] == "1";
+    runway.accuracy = static_cast<uint8_t>(readWhole(table[Accuracy], 0, 3).value_or(0));
     for (size_t end = 0; end < runway.ends.size(); ++end)
         readEnd(table, end, runway.ends[end]);
     const std::string &first = runway.ends[0].name, &second = runway.ends[1].name;
@@ -159,7 +162,7 @@ void addRow(const CsvTable& table, const SourceContext& context, AirportRunways&
 
 bool readRunwayTable(const std::string& path, const std::unordered_set<std::string>& unwanted,
                      const SourceContext& context, RunwayTable& table) {
-    CsvTable rows(path, needed, ofEnds, context);
+    CsvTable rows(path, needed, optional, context);
     while (rows.next()) {
         if (unwanted.count(rows[AirportIdent]) > 0)
             continue;

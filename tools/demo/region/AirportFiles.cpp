@@ -45,6 +45,7 @@ std::string quoted(const std::string& text) {
 }
 
 constexpr int firstAirportId = 9900001;
+constexpr const char* exact = "3"; ///< Who makes up a runway knows where it is.
 
 // The spot of a navaid: half a mile beside the runway's second end, or where the plan says.
 Spot navaidSpot(const Sites& sites, const NavaidPlan& plan) {
@@ -61,25 +62,42 @@ std::string writeAirports(const Sites& sites) {
     std::string text = "\"id\",\"ident\",\"type\",\"name\",\"latitude_deg\",\"longitude_deg\",\"elevation_ft\","
                        "\"continent\",\"iso_country\",\"iso_region\",\"municipality\",\"scheduled_service\","
                        "\"icao_code\",\"iata_code\",\"gps_code\",\"local_code\",\"home_link\",\"wikipedia_link\","
-                       "\"keywords\"\n";
+                       "\"keywords\",\"accuracy\"\n";
     int id = firstAirportId;
     for (const Airport& airport : sites.airports) {
         const AirportPlan& plan = *airport.plan;
         const ChartPosition position = RegionPlane::toPosition(airport.middle());
         const bool isLarge = plan.type == std::string("large_airport");
-        text += record({std::to_string(id++), quoted(plan.ident), quoted(plan.type), quoted(fictional(plan.name)),
-                        fixed(position.latitude, 6), fixed(position.longitude, 6), feet(airport.elevationMetres()),
-                        "\"EU\"", "\"XS\"", "\"XS-1\"", quoted(fictional(plan.town)), isLarge ? "\"yes\"" : "\"no\"",
-                        "", "", quoted(plan.ident), quoted(plan.ident), "", "", "\"fictional, not for navigation\""});
+        text += record({std::to_string(id++),
+                        quoted(plan.ident),
+                        quoted(plan.type),
+                        quoted(fictional(plan.name)),
+                        fixed(position.latitude, 6),
+                        fixed(position.longitude, 6),
+                        feet(airport.elevationMetres()),
+                        "\"EU\"",
+                        "\"XS\"",
+                        "\"XS-1\"",
+                        quoted(fictional(plan.town)),
+                        isLarge ? "\"yes\"" : "\"no\"",
+                        "",
+                        "",
+                        quoted(plan.ident),
+                        quoted(plan.ident),
+                        "",
+                        "",
+                        "\"fictional, not for navigation\"",
+                        exact});
     }
     return text;
 }
 
 std::string writeRunways(const Sites& sites) {
-    std::string text = "\"id\",\"airport_ref\",\"airport_ident\",\"length_ft\",\"width_ft\",\"surface\",\"lighted\","
-                       "\"closed\",\"le_ident\",\"le_latitude_deg\",\"le_longitude_deg\",\"le_elevation_ft\","
-                       "\"le_heading_degT\",\"le_displaced_threshold_ft\",\"he_ident\",\"he_latitude_deg\","
-                       "\"he_longitude_deg\",\"he_elevation_ft\",\"he_heading_degT\",\"he_displaced_threshold_ft\"\n";
+    std::string text =
+        "\"id\",\"airport_ref\",\"airport_ident\",\"length_ft\",\"width_ft\",\"surface\",\"lighted\","
+        "\"closed\",\"le_ident\",\"le_latitude_deg\",\"le_longitude_deg\",\"le_elevation_ft\","
+        "\"le_heading_degT\",\"le_displaced_threshold_ft\",\"he_ident\",\"he_latitude_deg\","
+        "\"he_longitude_deg\",\"he_elevation_ft\",\"he_heading_degT\",\"he_displaced_threshold_ft\",\"accuracy\"\n";
     int id = firstAirportId;
     for (const Airport& airport : sites.airports) {
         const AirportPlan& plan = *airport.plan;
@@ -108,7 +126,8 @@ std::string writeRunways(const Sites& sites) {
                         fixed(to.longitude, 6),
                         feet(airport.toMetres),
                         fixed(Angle0to360(airport.headingTrueDegrees + 180.0), 1),
-                        ""});
+                        "",
+                        exact});
     }
     return text;
 }

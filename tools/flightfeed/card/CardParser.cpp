@@ -75,6 +75,8 @@ void readRunway(Reading& reading, CardLine& line) {
     runway.courseDegrees = line.takeHeading();
     if (line.takeIf("length"))
         runway.lengthMetres = line.takeMetres("length");
+    if (line.takeIf("rise"))
+        runway.riseMetres = line.takeMetres("rise");
     if (line.takeIf("glide"))
         runway.glideDegrees = line.takeNumber("glide angle", 2.0, 8.0, "deg");
     if (runway.lengthMetres < 100.0)
@@ -96,6 +98,8 @@ void readTraffic(Reading& reading, CardLine& line) {
         traffic.climbMetresPerSecond = line.takeClimb();
     else if (line.takeIf("descend"))
         traffic.climbMetresPerSecond = -line.takeClimb();
+    if (line.takeIf("name"))
+        traffic.name = line.takeWord().substr(0, 8);
     if (reading.card.traffic.size() >= FlightState::MAXIMAL_TRAFFIC)
         return line.fail("there are eight other aircraft already");
     reading.card.traffic.push_back(traffic);
@@ -169,6 +173,11 @@ void readFollow(Reading& reading, CardLine& line) {
         step.altitudeMetres = line.takeMetres("altitude");
 }
 
+void readPlan(Reading& reading, CardLine& line) {
+    if (inAir(reading, line))
+        reading.add(CardStep::Kind::Plan);
+}
+
 void readLand(Reading& reading, CardLine& line) {
     if (!inAir(reading, line))
         return;
@@ -196,7 +205,8 @@ Reader readerOf(const std::string& word) {
         {"start", readStart},   {"time", readTime},       {"runway", readRunway}, {"traffic", readTraffic},
         {"stand", readStand},   {"takeoff", readTakeOff}, {"climb", readClimb},   {"descend", readClimb},
         {"turn", readTurn},     {"level", readLevel},     {"slip", readSlip},     {"direct", readDirect},
-        {"follow", readFollow}, {"land", readLand},       {"speed", readSpeed},   {"wind", readWind}};
+        {"follow", readFollow}, {"plan", readPlan},       {"land", readLand},     {"speed", readSpeed},
+        {"wind", readWind}};
     const auto found = readers.find(word);
     return found == readers.end() ? nullptr : found->second;
 }

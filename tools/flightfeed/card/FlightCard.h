@@ -7,9 +7,11 @@
 
 namespace skyvane {
 
+class PlanRoute;
+
 /// One line of a card that the aircraft flies or that changes what is asked of it.
 struct CardStep {
-    enum class Kind { Stand, TakeOff, Climb, Turn, Level, Slip, Direct, Follow, Land, Speed, Wind };
+    enum class Kind { Stand, TakeOff, Climb, Turn, Level, Slip, Direct, Follow, Plan, Land, Speed, Wind };
 
     Kind kind = Kind::Level;
     int line = 0;
@@ -31,6 +33,7 @@ struct CardRunway {
     double elevationMetres = 0.0;
     double courseDegrees = 0.0;
     double lengthMetres = 1000.0;
+    double riseMetres = 0.0; ///< the far end over the threshold
     double glideDegrees = 3.0;
 };
 
@@ -42,6 +45,7 @@ struct CardTraffic {
     double speedKnots = 0.0;
     double turnDegreesPerSecond = 0.0; ///< right positive
     double climbMetresPerSecond = 0.0;
+    std::string name; ///< its call sign, up to eight letters
 };
 
 /// A flight as it is written down; CardParser reads it, ScriptedFlight flies it.
@@ -56,6 +60,7 @@ struct FlightCard {
     CardRunway runway;
     std::vector<CardTraffic> traffic;
     std::vector<CardStep> steps;
+    PlanRoute* route = nullptr; ///< What Plan steps fly; it outlives the flight.
 };
 
 } // namespace skyvane

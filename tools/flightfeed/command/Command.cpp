@@ -1,15 +1,19 @@
 #include "flightfeed/command/Command.h"
 
+#include "core/log/Logger.h"
 #include "flightfeed/card/CardParser.h"
 #include "flightfeed/command/Feed.h"
+#include "flightfeed/command/FlightRecorder.h"
 #include "flightfeed/command/Options.h"
 #include "flightfeed/flight/HeldState.h"
+#include "flightfeed/flight/PlanRoute.h"
 #include "flightfeed/flight/ScriptedFlight.h"
 #include "flightfeed/replay/CsvFlight.h"
 #include "flightfeed/replay/GzipFile.h"
 #include "flightfeed/send/StreamSenders.h"
 #include "flightfeed/send/UdpSender.h"
 
+#include <algorithm>
 #include <iostream>
 
 extern "C" const char flightfeed_demo_card[];
@@ -23,7 +27,26 @@ void complain(const std::string& words) {
     std::cerr << "flightfeed: " << words << '\n';
 }
 
-std::unique_ptr<IFlightSource> openCard(const std::string& path) {
+bool fliesPlan(const FlightCard& card) {
+    return std::any_of(card.steps.begin(), card.steps.end(),
+                       [](const CardStep& step) { return step.kind == CardStep::Kind::Plan; });
+}
+
+/// The plan that the card flies, if it flies one.
+bool openRoute(const Options& options, FlightCard& card, std::unique_ptr<PlanRoute>& route) {
+    std::string error;
+    if (fliesPlan(card) && options.plan.empty())
+        error = options.card + ": the card flies a plan: --plan and --charts tell which";
+    else if (fliesPlan(card))
+        route = PlanRoute::open(options.plan, options.charts, error);
+    if (!error.empty())
+        complain(error);
+    card.route = route.get();
+    return error.empty();
+}
+
+std::unique_ptr<IFlightSource> openCard(const Options& options, std::unique_ptr<PlanRoute>& route) {
+    const std::string& path = options.card;
     std::string text = flightfeed_demo_card, error;
     if (!path.empty() && !readMaybeGzip(path, text, error)) {
         complain(error);
@@ -33,7 +56,7 @@ std::unique_ptr<IFlightSource> openCard(const std::string& path) {
     const std::vector<CardError> errors = parseCard(text, card);
     for (const CardError& entry : errors)
         complain((path.empty() ? "demo card" : path) + ": line " + std::to_string(entry.line) + ": " + entry.message);
-    if (!errors.empty())
+    if (!errors.empty() || !openRoute(options, card, route))
         return nullptr;
     return std::make_unique<ScriptedFlight>(std::move(card));
 }
@@ -68,6 +91,17 @@ int replayDatagrams(const Options& options, std::string content, IDatagramSink& 
     ClockPacer pacer(options.speed);
     feedRecording(recording, sink, printer, pacer, settingsOf(options));
     return 0;
+}
+
+int record(const Options& options, IFlightSource* source, TruthPrinter* printer) {
+    if (!source)
+        return 1;
+    for (double skipped = 0.0; skipped < options.fromSeconds; skipped += 1.0 / options.ratePerSecond)
+        source->advance(1.0 / options.ratePerSecond);
+    if (recordFlight(*source, options.record, options.ratePerSecond, options.durationSeconds, printer))
+        return 0;
+    complain(options.record + ": the log can't be written");
+    return 1;
 }
 
 int fly(const Options& options, IFlightSource* source, IDatagramSink& sink, TruthPrinter* printer) {
@@ -105,6 +139,7 @@ std::unique_ptr<IDatagramSink> openSink(const Options& options, std::string& err
 } // namespace
 
 int runFlightFeed(const std::vector<std::string>& arguments) {
+    const QuietConsole quiet;
     Options options;
     std::string error;
     if (!parseOptions(arguments, options, error)) {
@@ -115,18 +150,23 @@ int runFlightFeed(const std::vector<std::string>& arguments) {
         std::cout << flightfeed_usage;
         return 0;
     }
+    TruthPrinter printer(std::cout);
+    if (options.print)
+        printer.printHeader();
+    TruthPrinter* const print = options.print ? &printer : nullptr;
+    std::unique_ptr<PlanRoute> route;
+    std::unique_ptr<IFlightSource> source;
+    if (options.replay.empty())
+        source = options.hold ? openHeld(options.state) : openCard(options, route);
+    if (!options.record.empty())
+        return record(options, source.get(), print);
     const std::unique_ptr<IDatagramSink> sink = openSink(options, error);
     if (!sink) {
         complain(error);
         return 1;
     }
-    TruthPrinter printer(std::cout);
-    if (options.print)
-        printer.printHeader();
-    TruthPrinter* const print = options.print ? &printer : nullptr;
     if (!options.replay.empty())
         return replay(options, *sink, print);
-    const std::unique_ptr<IFlightSource> source = options.hold ? openHeld(options.state) : openCard(options.card);
     return fly(options, source.get(), *sink, print);
 }
 

@@ -54,6 +54,9 @@ const std::unordered_map<std::string, Setter> VALUES{
     {"--pty", [](Options& o, const std::string& t) { return setText(o.pty, t); }},
     {"--card", [](Options& o, const std::string& t) { return setText(o.card, t); }},
     {"--replay", [](Options& o, const std::string& t) { return setText(o.replay, t); }},
+    {"--plan", [](Options& o, const std::string& t) { return setText(o.plan, t); }},
+    {"--charts", [](Options& o, const std::string& t) { return setText(o.charts, t); }},
+    {"--record", [](Options& o, const std::string& t) { return setText(o.record, t); }},
     {"--state", [](Options& o, const std::string& t) { return setText(o.state, t); }},
     {"--rate", [](Options& o, const std::string& t) { return setNumber(t, 0.1, 1000.0, o.ratePerSecond); }},
     {"--duration", [](Options& o, const std::string& t) { return setNumber(t, 0.001, 1e6, o.durationSeconds); }},
@@ -69,6 +72,10 @@ bool consistent(const Options& options, std::string& error) {
         error = "--card, --replay and --hold exclude each other";
     else if (!options.state.empty() && !options.hold)
         error = "--state needs --hold";
+    else if (options.plan.empty() != options.charts.empty() || (!options.plan.empty() && options.card.empty()))
+        error = "--plan needs --charts, and a --card that flies it";
+    else if (!options.record.empty() && (options.loop || !options.replay.empty()))
+        error = "--record fits neither --loop nor --replay";
     else if (!options.pty.empty() && !options.protocol->isStream)
         error = "--pty needs --protocol nmea";
     return error.empty();

@@ -19,6 +19,9 @@ struct Options {
     double fromSeconds = 0.0;     ///< flown without sending
     std::string card;             ///< a file, empty for the built-in one
     std::string replay;           ///< a recording
+    std::string plan;             ///< a document of flight plans, of which a card flies the first
+    std::string charts;           ///< the folder of the charts that the plan was made over
+    std::string record;           ///< a log to write in place of sending
     bool hold = false;
     std::string state;
     bool print = false;

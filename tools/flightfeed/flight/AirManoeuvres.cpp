@@ -156,6 +156,7 @@ std::unique_ptr<IManoeuvre> makeManoeuvre(const FlightCard& card, const CardStep
     case CardStep::Kind::Wind:
         return std::make_unique<Ask>(step);
     case CardStep::Kind::Follow:
+    case CardStep::Kind::Plan:
         return makeRouteManoeuvre(card, step);
     default:
         return makeRunwayManoeuvre(card, step);

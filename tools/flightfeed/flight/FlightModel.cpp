@@ -75,8 +75,9 @@ void FlightModel::liftOff() {
     updateAir();
 }
 
-void FlightModel::touchDown(double elevationMetres, double courseRadians) {
+void FlightModel::touchDown(double elevationMetres, double courseRadians, double slope) {
     elevation_ = elevationMetres;
+    slope_ = slope;
     course_ = courseRadians;
     const double north = std::cos(course_), east = std::sin(course_);
     groundSpeed_.reset(velocity_.north * north + velocity_.east * east,
@@ -156,8 +157,10 @@ void FlightModel::updateAir() {
 
 void FlightModel::stepGround(double seconds) {
     constexpr double settlePerSecond = 0.3;
-    climb_.follow(settlePerSecond * (elevation_ - altitude_), seconds);
     groundSpeed_.follow(controls.groundSpeedMetresPerSecond, seconds);
+    const double rising = slope_ * groundSpeed_.value();
+    elevation_ += rising * seconds;
+    climb_.follow(rising + settlePerSecond * (elevation_ - altitude_), seconds);
     lateralSpeed_.follow(0.0, seconds);
     courseError_.follow(0.0, seconds);
     groundPitch_.follow(controls.groundPitchRadians, seconds);

@@ -36,7 +36,8 @@ public:
     /// Keeps the wind that is asked for as the wind from now on, without a blend.
     void settleWind();
     void liftOff();
-    void touchDown(double elevationMetres, double courseRadians);
+    /// On ground that rises by `slope` metres per metre along the course.
+    void touchDown(double elevationMetres, double courseRadians, double slope = 0.0);
 
     FlightControls controls;
 
@@ -72,6 +73,7 @@ private:
     double altitude_ = 0.0;
     double elevation_ = 0.0;
     double course_ = 0.0;
+    double slope_ = 0.0;
 
     SmoothFollower windNorth_{0.5, 1.0};
     SmoothFollower windEast_{0.5, 1.0};

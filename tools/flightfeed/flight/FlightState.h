@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 
 namespace skyvane {
 
@@ -11,6 +12,8 @@ struct TrafficState {
     double altitudeMetres = 0.0;
     double trackDegrees = 0.0;
     double groundSpeedKnots = 0.0;
+    double climbMetresPerSecond = 0.0;
+    std::string name; ///< empty where it has none
 };
 
 /// The truth of one instant of a flight: what a sender turns into a protocol's bytes.

@@ -20,7 +20,7 @@ public:
 /// The manoeuvre of a step. The card outlives it.
 std::unique_ptr<IManoeuvre> makeManoeuvre(const FlightCard& card, const CardStep& step);
 
-/// Along the straight line to a way point; null for other steps.
+/// Along the straight line to a way point, or along a flight plan; null for other steps.
 std::unique_ptr<IManoeuvre> makeRouteManoeuvre(const FlightCard& card, const CardStep& step);
 
 /// Those that begin or end on the ground; null for other steps.

@@ -1,4 +1,5 @@
 #include "flightfeed/flight/IManoeuvre.h"
+#include "flightfeed/flight/PlanRoute.h"
 #include "flightfeed/flight/Units.h"
 
 #include <algorithm>
@@ -82,9 +83,54 @@ private:
     double course_ = 0.0, length_ = 0.0, turn_ = 0.0;
 };
 
+// The flight plan, until the runway is near.
+class FlyPlan : public IManoeuvre {
+public:
+    explicit FlyPlan(PlanRoute& route) : route_(route) {}
+
+    void begin(Pilot& pilot) override { route_.join(stateOf(pilot)); }
+
+    bool fly(Pilot& pilot, double) override {
+        constexpr double steepestBank = 30.0, runwayMetres = 1852.0;
+        FlightModel& model = pilot.model();
+        const FlightState state = stateOf(pilot);
+        const PlanRoute::Aim aim = route_.follow(state);
+        pilot.turnAt(aim.turnRadiansPerSecond, toRadians(steepestBank));
+        climb(model, aim);
+        hold(model, aim.groundSpeedKnots - state.groundSpeedKnots);
+        pilot.takeCourse();
+        pilot.altitudeMetres = aim.altitudeMetres;
+        return aim.metresLeft < runwayMetres;
+    }
+
+private:
+    static FlightState stateOf(Pilot& pilot) {
+        FlightState state;
+        pilot.model().fill(state);
+        return state;
+    }
+    static void climb(FlightModel& model, const PlanRoute::Aim& aim) {
+        constexpr double gainPerSecond = 0.15, gentlest = 2.0, fastestClimb = 4.6, fastestDescent = 7.0;
+        const double off = gainPerSecond * (aim.altitudeMetres - model.altitudeMetres());
+        const double wanted = aim.climbMetresPerSecond + std::clamp(off, -gentlest, gentlest);
+        model.controls.climbMetresPerSecond = std::clamp(wanted, -fastestDescent, fastestClimb);
+    }
+    /// The airspeed that gives the plan's ground speed.
+    static void hold(FlightModel& model, double missingKnots) {
+        constexpr double slowestKnots = 62.0, fastestKnots = 140.0;
+        const double wanted = model.airspeedMetresPerSecond() / METRES_PER_SECOND_PER_KNOT + missingKnots;
+        model.controls.airspeedMetresPerSecond =
+            std::clamp(wanted, slowestKnots, fastestKnots) * METRES_PER_SECOND_PER_KNOT;
+    }
+
+    PlanRoute& route_;
+};
+
 } // namespace
 
 std::unique_ptr<IManoeuvre> makeRouteManoeuvre(const FlightCard& card, const CardStep& step) {
+    if (step.kind == CardStep::Kind::Plan && card.route)
+        return std::make_unique<FlyPlan>(*card.route);
     if (step.kind != CardStep::Kind::Follow)
         return nullptr;
     return std::make_unique<Follow>(card, step);

@@ -76,20 +76,26 @@ public:
         if (model.onGround())
             return model.groundSpeedMetresPerSecond() < 0.3;
         constexpr double wheelsMetres = 0.15;
-        if (model.altitudeMetres() - runway_.elevationMetres <= wheelsMetres) {
+        const RunwayOffset offset = runwayOffset(runway_, model.point());
+        if (model.altitudeMetres() - groundMetres(offset) <= wheelsMetres) {
             model.controls.groundSpeedMetresPerSecond = 0.0;
             model.controls.groundPitchRadians = 0.0;
             model.controls.crabRadians = 0.0;
-            model.touchDown(runway_.elevationMetres, course_);
+            model.touchDown(groundMetres(offset), course_, slope());
             return false;
         }
-        const RunwayOffset offset = runwayOffset(runway_, model.point());
         steer(pilot, offset);
         descend(pilot, offset);
         return false;
     }
 
 private:
+    double slope() const { return runway_.riseMetres / runway_.lengthMetres; }
+    /// Of the runway below, or of its threshold.
+    double groundMetres(const RunwayOffset& offset) const {
+        return runway_.elevationMetres + slope() * std::clamp(-offset.beforeMetres, 0.0, runway_.lengthMetres);
+    }
+
     void steer(Pilot& pilot, const RunwayOffset& offset) {
         constexpr double secondsToCentreline = 12.0, greatestIntercept = 45.0;
         constexpr double straightenMetres = 8.0;
@@ -98,7 +104,7 @@ private:
         const double intercept = std::clamp(std::atan(offset.rightMetres / reach), -toRadians(greatestIntercept),
                                             toRadians(greatestIntercept));
         pilot.steerTrack(course_ - intercept);
-        if (model.altitudeMetres() - runway_.elevationMetres < straightenMetres)
+        if (model.altitudeMetres() - groundMetres(offset) < straightenMetres)
             model.controls.crabRadians = wrapRadians(model.airCourseRadians() - course_);
     }
 
@@ -110,7 +116,7 @@ private:
         onGlidePath_ = onGlidePath_ || above > -captureMetres;
         if (!onGlidePath_)
             return pilot.holdAltitude();
-        const double height = model.altitudeMetres() - runway_.elevationMetres;
+        const double height = model.altitudeMetres() - groundMetres(offset);
         const double along = -model.groundSpeedMetresPerSecond() * std::tan(toRadians(runway_.glideDegrees));
         const double glide = std::clamp(along - gainPerSecond * above, -steepest, 0.5);
         const double flare = -flarePerSecond * height - touchDownMetresPerSecond;

@@ -1,6 +1,7 @@
 #include "flightfeed/flight/ScriptedFlight.h"
 
 #include "flightfeed/flight/LandingBeam.h"
+#include "flightfeed/flight/PlanRoute.h"
 #include "flightfeed/flight/Units.h"
 
 #include <algorithm>
@@ -44,6 +45,8 @@ void ScriptedFlight::restart() {
     nextManoeuvre();
     model_.settleWind();
     publish();
+    if (card_.route)
+        card_.route->begin(state_);
 }
 
 bool ScriptedFlight::nextManoeuvre() {
@@ -54,6 +57,8 @@ bool ScriptedFlight::nextManoeuvre() {
     while (immediate && nextStep_ < card_.steps.size()) {
         const CardStep& step = card_.steps[nextStep_++];
         manoeuvre_ = makeManoeuvre(card_, step);
+        if (!manoeuvre_) // a plan that nobody gave
+            continue;
         manoeuvre_->begin(pilot_);
         immediate = step.kind == Kind::Speed || step.kind == Kind::Wind;
     }
@@ -98,8 +103,13 @@ void ScriptedFlight::publish() {
         setLandingBeam(card_.runway, state_);
     state_.trafficCount = static_cast<int>(traffic_.size());
     for (size_t i = 0; i < traffic_.size(); ++i)
-        state_.traffic[i] = {traffic_[i].point.latitudeDegrees, traffic_[i].point.longitudeDegrees,
-                             traffic_[i].altitudeMetres, traffic_[i].headingDegrees, traffic_[i].speedKnots};
+        state_.traffic[i] = {traffic_[i].point.latitudeDegrees,
+                             traffic_[i].point.longitudeDegrees,
+                             traffic_[i].altitudeMetres,
+                             traffic_[i].headingDegrees,
+                             traffic_[i].speedKnots,
+                             traffic_[i].climbMetresPerSecond,
+                             traffic_[i].name};
 }
 
 } // namespace skyvane

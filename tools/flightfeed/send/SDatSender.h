@@ -1,7 +1,7 @@
 #pragma once
 
+#include "flightfeed/send/FlightRecords.h"
 #include "flightfeed/send/IProtocolSender.h"
-#include "sensors/records/ISensorData.h"
 
 #include <cstdint>
 #include <vector>
@@ -20,6 +20,7 @@ public:
 private:
     void add(ISensorData& record);
 
+    FlightRecords records_;
     std::vector<uint8_t> datagram_;
     uint8_t sequenceNumber_ = 0;
 };
