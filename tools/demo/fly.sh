@@ -75,12 +75,12 @@ picture() {
     xdotool windowfocus "$window" key Insert
     local taken=
     for _ in $(seq 50); do
-        taken=$(find "$home/Screenshots" -name '*.png' ! -name '[0-9]-*' | head -1)
+        taken=$(find "$home/Screenshots" -name '*.png' ! -name "*-*" | head -1)
         [ -n "$taken" ] && break
         sleep 0.1
     done
     sleep 0.3 # until it is written
-    number=$((number + 1))
+    number=$(printf %02d $((10#$number + 1)))
     mv "$taken" "$home/Screenshots/$number-$1.png"
     echo "$home/Screenshots/$number-$1.png"
 }
@@ -99,9 +99,10 @@ echo "No display: flying on a virtual one. Pictures:"
 picture take-off 30 0 1
 picture traffic 190 0 1
 picture valley 925 5 3
-picture pass 970 5 1
+picture pass 1005 6 1
 picture highway 1095 7 3
 picture map 1480 10 2
 picture instruments 1480 10 4
-picture approach 1840 11 1
+picture entry 1700 11 3
+picture approach 1850 11 1
 picture landed 1990 11 1
