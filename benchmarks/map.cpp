@@ -47,7 +47,7 @@ private:
     std::atomic<double> skipped_{0.0};
 };
 
-enum class Charts { Landscape, None, Crowded };
+enum class Charts { Landscape, Crowded };
 
 std::string dataFolder() {
     const char* data = std::getenv("SKYVANE_DATA");
@@ -90,6 +90,10 @@ std::string writeConfig() {
     return config.Save(path) ? path : std::string();
 }
 
+bool isComplete(Map2D& map) {
+    return map.getParts().tiles.isComplete() && !map.getParts().tiles.isFilling();
+}
+
 /// A map of its own in the program's window, over a place that a simulation holds.
 class MapProgram {
 public:
@@ -112,8 +116,7 @@ public:
                                                     2500);
         MapSettings settings;
         settings.switches.marks = charts != Charts::Landscape;
-        map_ = std::make_unique<Map2D>(&context, settings, "", writers_);
-        map_->setFactory(context.getPanelManager()->getPanelFactory(0));
+        map_ = makeMap(settings);
     }
     ~MapProgram() {
         map_.reset();
@@ -121,9 +124,17 @@ public:
     }
 
     bool isGood() const { return map_ != nullptr; }
+    Map2D& getMap() { return *map_; }
     MapParts& getParts() { return map_->getParts(); }
     void markDirty() { map_->OnProcedureChanged(); }
-    bool isComplete() { return getParts().tiles.isComplete() && !getParts().tiles.isFilling(); }
+    bool isComplete() { return skyvane::isComplete(*map_); }
+    /// One more, with tiles of its own; it goes before the program.
+    std::unique_ptr<Map2D> makeMap(const MapSettings& settings) {
+        Context& context = program_.getContext();
+        auto map = std::make_unique<Map2D>(&context, settings, "", writers_);
+        map->setFactory(context.getPanelManager()->getPanelFactory(0));
+        return map;
+    }
 
     /// Whatever draws, in a frame of its own; until the driver has drawn it.
     double frameSeconds(const std::function<void()>& draw) {
@@ -136,11 +147,12 @@ public:
             glFinish();
         });
     }
-    double mapSeconds() {
+    double mapSeconds() { return mapSeconds(*map_); }
+    double mapSeconds(Map2D& map) {
         program_.getContext().getSensorManager()->Update();
         if (TerrainManager* terrain = program_.getContext().getPanelManager()->getTerrainManager())
             terrain->Update();
-        return frameSeconds([this] { map_->render(panel_); });
+        return frameSeconds([&] { map.render(panel_); });
     }
     /// Frames until everything has come.
     void settle() {
@@ -237,20 +249,19 @@ double completeFrames(bool) {
     return frames;
 }
 
+/// A map full of elements against one beside it in the same program that shows none of them, frame by frame in turns.
 double crowdedFrame(bool smoke) {
-    const auto measure = [smoke](Charts charts) {
-        MapProgram map(charts);
-        if (!map.isGood())
-            return std::nan("");
-        for (int frame = 0; frame < 2000 && !map.isComplete(); ++frame)
-            map.mapSeconds();
-        std::vector<double> seconds;
-        for (int i = 0; i < (smoke ? 5 : 150); ++i)
-            seconds.push_back(map.mapSeconds());
-        return median(seconds);
-    };
-    const double empty = measure(Charts::None);
-    return measure(Charts::Crowded) / empty;
+    MapProgram program(Charts::Crowded);
+    if (!program.isGood())
+        return std::nan("");
+    Map2D& crowded = program.getMap();
+    const std::unique_ptr<Map2D> bare = program.makeMap(MapSettings());
+    for (int frame = 0; frame < 2000 && !(isComplete(crowded) && isComplete(*bare)); ++frame) {
+        program.mapSeconds(crowded);
+        program.mapSeconds(*bare);
+    }
+    return ratioOfMedians(
+        smoke ? 5 : 150, [&] { return program.mapSeconds(crowded); }, [&] { return program.mapSeconds(*bare); });
 }
 
 } // namespace
