@@ -11,6 +11,7 @@
 #include "displays/map/IChartElementRenderer.h"
 #include "displays/map/Map2D.h"
 #include "displays/map/Map2DFactory.h"
+#include "displays/map/MapParts.h"
 #include "displays/map/elements/ElementScene.h"
 #include "sensors/SensorFakes.h"
 #include "sensors/SensorManager.h"
@@ -18,9 +19,11 @@
 #include "sensors/records/Altitude_Data.h"
 #include "sensors/records/Heading_Data.h"
 #include "sensors/records/Position_Data.h"
+#include "sensors/records/Traffic_Data.h"
 
 #include <cmath>
 #include <limits>
+#include <random>
 
 namespace skyvane {
 namespace {
@@ -50,7 +53,7 @@ protected:
         addStandardDataFactories(sensors);
         sensors.addSensorFactory(std::make_unique<FakeSensorFactory>());
         IniFile document;
-        document.setFromString("SensorCount = 2\nD2 = 1\nD4 = 1\nD5 = 1\n[S1]\nFactoryIndex = 0\n");
+        document.setFromString("SensorCount = 2\nD2 = 1\nD4 = 1\nD5 = 1\nD15 = 1\n[S1]\nFactoryIndex = 0\n");
         sensors.loadSensorSettingsFromIni(&document, false);
         sensor = dynamic_cast<FakeSensor*>(sensors.getSensorInterface(1));
         ASSERT_NE(sensor, nullptr);
@@ -308,6 +311,109 @@ TEST_F(ElementsOnMap, wildElementsAtTheEdgesOfTheEarth) {
     fly(45.0, inf, {inf, -inf});
     zoom(1);
     EXPECT_EQ(gl.pixel(2, 2).getAlpha(), 255u);
+}
+
+TEST_F(ElementsOnMap, elementsWithoutPointsDrawNothing) {
+    openMap("lowIFR = 1\nairways = 1\n");
+    const auto lineless = ground(9, GroundGeometryElement::Line, {}), point = ground(13, 0, {{0.0, 0.0}});
+    const AirspaceElement airspace;
+    const AirwayElement airway;
+    const AirportElement airport;
+    for (const IChartElement* element :
+         std::initializer_list<const IChartElement*>{lineless.get(), point.get(), &airspace, &airway, &airport}) {
+        IChartElementRenderer& renderer = *context->getChartElementRenderer(element->getType());
+        for (const bool selected : {false, true})
+            frame([&] { renderer.render2D(element, map.get(), 4711, false, selected); });
+        renderer.isMouseOver2D(map.get(), element, 4711, {width / 2, height / 2});
+        renderer.will2DMapChange(map.get(), element, 0.0, 500.0);
+        renderer.getPriority(element);
+        renderer.getSelectPriority(element);
+    }
+    EXPECT_EQ(gl.pixel(2, 2).getAlpha(), 255u);
+}
+
+/// The chart is emptied while tiles fill and while the cross holds an element of it.
+TEST_F(ElementsOnMap, aChartMayVanishAtAnyTime) {
+    for (int i = 0; i < 40; ++i)
+        add(at<VORElement>(0.02 * (i % 8) - 0.08, 0.02 * (i / 8) - 0.05));
+    add(at<MarkElement>(0.0, 0.0));
+    openMap("marks = 1\n");
+    map->getParts().view.leaveFollowing();
+    draw();
+    ASSERT_NE(map->getParts().selection.getElement(), nullptr);
+    map->OnProcedureChanged(); // a set of tiles begins
+    const auto oneFrame = [&] {
+        gl.begin();
+        map->render(rect<int>(0, 0, width, height));
+        gl.end();
+    };
+    oneFrame();
+    for (int left = 41; left > 0; --left) { // the last one takes the number of what goes
+        ASSERT_TRUE(panels().getChart()->deleteCustomChartElement(-1));
+        if (left % 5 == 0)
+            map->OnChartChanged();
+        oneFrame();
+    }
+    panels().getChart()->deleteCache();
+    oneFrame(); // nobody has told the map
+    map->OnChartChanged();
+    draw();
+    EXPECT_EQ(map->getParts().selection.getElement(), nullptr);
+    EXPECT_EQ(around(0.0, 0.05, 0xff0000ff, 60), 0);
+    EXPECT_TRUE(map->getParts().labels.getShown().empty());
+}
+
+TEST_F(ElementsOnMap, thePositionMayJumpAndStall) {
+    add(at<VORElement>(1.0, 0.5));
+    openMap("descriptions = 0\n");
+    std::mt19937 random(3);
+    std::uniform_real_distribution<double> longitude(-180.0, 180.0), latitude(-90.0, 90.0), heading(-720.0, 720.0);
+    map->getParts().view.toggleOrientation();
+    for (int i = 0; i < 150; ++i) {
+        fly(heading(random), 1000.0 * (i % 9), {longitude(random), latitude(random)});
+        gl.begin();
+        map->render(rect<int>(0, 0, width, height));
+        gl.end();
+    }
+    fly(0.0, 1000.0, {1.0, 0.4});
+    draw();
+    EXPECT_GT(around(1.0, 0.5, 0xff0000ff), 60) << "back where charts are";
+    const rect<int> plate(width / 2 - 60, height / 5, width / 2 + 60, height / 5 + 30);
+    EXPECT_EQ(count(plate, 0xffc00000, 40), 0);
+    sensor->level = ISensor::WRONG; // stalled
+    draw();
+    EXPECT_GT(count(plate, 0xffc00000, 40), 200) << "NO POSITION";
+}
+
+TEST_F(ElementsOnMap, trafficGoesWithItsSensor) {
+    const double inf = std::numeric_limits<double>::infinity();
+    openMap("");
+    auto traffic = std::make_unique<Traffic_Data>();
+    const auto put = [&](uint32_t id, double lon, double lat, float track) {
+        auto target = std::make_unique<TrafficElement>();
+        target->longitude = lon;
+        target->latitude = lat;
+        target->track = track;
+        target->altitude = 2147483647 - static_cast<int>(id % 7);
+        target->climbRate = -2147483647 - 1;
+        target->name = "TEST\n\x80 and much more";
+        traffic->elements[id] = std::move(target);
+    };
+    put(1, 0.1, 0.1, 90.0f);
+    put(2, inf, -inf, static_cast<float>(inf));
+    put(3, 1e300, 91.0, -1e30f);
+    put(4, std::nan(""), 0.0, std::nanf(""));
+    for (uint32_t i = 10; i < 1000; ++i)
+        put(i, 0.0, -0.15, 0.0f);
+    traffic->elements[5] = nullptr;
+    sensor->records[ISensorData::Traffic] = std::move(traffic);
+    draw();
+    EXPECT_GT(around(0.1, 0.1, 0xff87a3ff), 30);
+    EXPECT_GT(around(0.0, -0.15, 0xff87a3ff), 30);
+    EXPECT_EQ(around(-0.1, 0.1, 0xff87a3ff), 0);
+    sensor->level = ISensor::WRONG;
+    draw();
+    EXPECT_EQ(around(0.1, 0.1, 0xff87a3ff), 0) << "none outlives its sensor";
 }
 
 TEST_F(ElementsOnMap, aHugePolygonIsFilledWhileFramesGoOn) {
