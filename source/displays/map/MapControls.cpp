@@ -132,6 +132,8 @@ void MapControls::drawZoomBar(const MapGestures& gestures) {
     const int top = (bar.getHeight() - height) / 2;
     map_.getDrawer()->Draw(images_.zoomBar.get(),
                            Rect(bar.UpperLeftCorner.X, top, bar.LowerRightCorner.X, top + height));
+    const int beside = bar.getWidth() / 4; // the marks stand in the middle
+    plates_.emplace_back(bar.UpperLeftCorner.X + beside, top, bar.LowerRightCorner.X - beside, top + height);
 }
 
 /// An arrow to what is true north, or "TRK" over the track: never to be guessed from the chart.

@@ -27,7 +27,7 @@ public:
     void draw(const irr::core::rect<int>& panel, const MapReadings& readings, const MapGestures& gestures);
     /// A box that says so while the first set of tiles is made.
     void drawDrawingBox(const irr::core::rect<int>& panel);
-    /// Where the last frame had words of its own, in pixels of the panel.
+    /// Where the last frame had words and marks of its own, in pixels of the panel.
     const std::vector<irr::core::rect<int>>& getPlates() const { return plates_; }
 
 private:
