@@ -45,7 +45,12 @@ std::string quoted(const std::string& text) {
 }
 
 constexpr int firstAirportId = 9900001;
-constexpr const char* exact = "3"; ///< Who makes up a runway knows where it is.
+
+/// How exactly an airport is known: those with a hard runway are surveyed, of the others nobody tells.
+std::string accuracyOf(const AirportPlan& plan) {
+    const std::string surface = plan.surface;
+    return surface == "ASP" || surface == "CON" ? "3" : "";
+}
 
 // The spot of a navaid: half a mile beside the runway's second end, or where the plan says.
 Spot navaidSpot(const Sites& sites, const NavaidPlan& plan) {
@@ -87,7 +92,7 @@ std::string writeAirports(const Sites& sites) {
                         "",
                         "",
                         "\"fictional, not for navigation\"",
-                        exact});
+                        accuracyOf(plan)});
     }
     return text;
 }
@@ -127,7 +132,7 @@ std::string writeRunways(const Sites& sites) {
                         feet(airport.toMetres),
                         fixed(Angle0to360(airport.headingTrueDegrees + 180.0), 1),
                         "",
-                        exact});
+                        accuracyOf(plan)});
     }
     return text;
 }
