@@ -12,6 +12,7 @@
 #include "core/files/StandardDocuments.h"
 #include "core/files/Version.h"
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/log/Logger.h"
 #include "core/system/OpenUrl.h"
 #include "core/system/SystemManager.h"
@@ -122,9 +123,7 @@ Context::~Context() {
 }
 
 bool Context::loadConfig(IniFile& config) {
-    const auto number = [&config](const char* key) {
-        return config.isAvailable("", key) ? toUnsigned(config.get("", key)) : 0u;
-    };
+    const auto number = [&config](const char* key) { return toUnsigned(readValue(config, "", key)); };
     if (number("major") == ConfigMajor && number("minor") == ConfigMinor)
         return true;
     config = IniFile();

@@ -3,6 +3,7 @@
 #include "core/IProgressCallback.h"
 #include "core/engine/ShowState.h"
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/ini/SeparatedString.h"
 #include "core/log/Logger.h"
 #include "core/text/Numbers.h"
@@ -29,11 +30,6 @@ constexpr int elementCacheSize = 100000;
 /// Tiles of each type of background.
 constexpr int backgroundCacheSize = 80;
 
-/// Without creating the key.
-std::string valueOf(IniFile* ini, const char* key) {
-    return ini->isAvailable("", key) ? ini->get("", key) : std::string();
-}
-
 std::string withoutSpaces(std::string text) {
     text.erase(std::remove(text.begin(), text.end(), ' '), text.end());
     return text;
@@ -54,7 +50,7 @@ void PanelManager::loadFontSettingsFromIni(IniFile* ini) {
     const auto load = [this](const std::string& name) {
         return name.empty() ? nullptr : LoadFFont(context_->getSystemManager(), context_->getFontManager(), name);
     };
-    const std::string wanted = valueOf(ini, "font");
+    const std::string wanted = readValue(*ini, "", "font");
     FlexibleFont* font = load(wanted);
     if (!font && wanted != standardFont) {
         ini->set("", "font", standardFont);
@@ -70,7 +66,7 @@ void PanelManager::useFont(FlexibleFont* font, IniFile* ini) {
     const ScreenMetrics& metrics = context_->getScreenMetrics();
     const irr::core::dimension2d<irr::u32> button(static_cast<irr::u32>(metrics.buttonWidth),
                                                   static_cast<irr::u32>(metrics.buttonHeight));
-    const int offset = std::max(-10, std::min(toInt(valueOf(ini, "fontOffset")), 10));
+    const int offset = std::max(-10, std::min(toInt(readValue(*ini, "", "fontOffset")), 10));
     const float scale = font->calculateOptimalScale(L"O_O_O_O_", button) * static_cast<float>(std::pow(1.1, offset));
     font->setDefaultScale(irr::core::vector2d<float>(scale, scale));
     context_->getIrrlichtDevice()->getGUIEnvironment()->getSkin()->setFont(font);
@@ -89,7 +85,7 @@ void PanelManager::loadPanelSettingsFromIni(IniFile* ini, IProgressCallback* pro
     chart_ = std::make_unique<ExtendedChart>(context_, reloadChart, progress, elementCacheSize, backgroundCacheSize);
     context_->getProcedureManager()->OnChartChanged();
     advance(progress);
-    menu_ = std::make_unique<Menu>(context_, toBool(valueOf(ini, "useColoredButtons")));
+    menu_ = std::make_unique<Menu>(context_, toBool(readValue(*ini, "", "useColoredButtons")));
     loadPanels(ini);
     advance(progress);
     overlays_ = std::make_unique<OverlayInstruments>(context_);
@@ -97,17 +93,17 @@ void PanelManager::loadPanelSettingsFromIni(IniFile* ini, IProgressCallback* pro
 }
 
 void PanelManager::readSettings(IniFile* ini) {
-    metric_ = valueOf(ini, "units") == "m|km|km/h";
+    metric_ = readValue(*ini, "", "units") == "m|km|km/h";
     irrelevantAirspaces_.clear();
-    for (const std::string& entry : parseSeperatedString(valueOf(ini, "blacklist"), ',')) {
+    for (const std::string& entry : parseSeperatedString(readValue(*ini, "", "blacklist"), ',')) {
         irrelevantAirspaces_.push_back(withoutSpaces(entry));
         logText("irrelevantAirspaces: " + irrelevantAirspaces_.back() + "\n");
     }
-    messagesDisabled_ = toBool(valueOf(ini, "messagesDisabled"));
+    messagesDisabled_ = toBool(readValue(*ini, "", "messagesDisabled"));
     if (messagesDisabled_)
         messageBox_->hide();
-    drawFps_ = toBool(valueOf(ini, "drawFPS"));
-    terrainDetailLevel_ = detailLevelOf(valueOf(ini, "terrainDetailLevel"));
+    drawFps_ = toBool(readValue(*ini, "", "drawFPS"));
+    terrainDetailLevel_ = detailLevelOf(readValue(*ini, "", "terrainDetailLevel"));
 }
 
 void PanelManager::loadPanels(IniFile* ini) {
@@ -130,7 +126,7 @@ void PanelManager::loadPanels(IniFile* ini) {
 }
 
 void PanelManager::applyStoredPreset(IniFile* ini) {
-    const int preset = toInt(valueOf(ini, "optimized"), -1);
+    const int preset = toInt(readValue(*ini, "", "optimized"), -1);
     if (preset >= 0 && preset < IPanel::OPTIMIZED_NONE)
         applyOptimizedSettings(static_cast<IPanel::OptimizedSettings>(preset));
     else

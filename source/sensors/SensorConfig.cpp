@@ -1,6 +1,7 @@
 #include "sensors/SensorConfig.h"
 
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/text/Numbers.h"
 #include "sensors/ISensorForwarder.h"
 
@@ -10,24 +11,16 @@ namespace {
 constexpr char Unnamed[] = "";
 constexpr char ForwarderCountKey[] = "ForwarderCount";
 
-unsigned readCount(IniFile& ini, const std::string& key) {
-    return ini.isAvailable(Unnamed, key) ? toUnsigned(ini.get(Unnamed, key)) : 0;
-}
-
 } // namespace
 
 int readNumber(IniFile& ini, const std::string& section, const std::string& key, int fallback) {
-    return ini.isAvailable(section, key) ? toInt(ini.get(section, key), fallback) : fallback;
+    return toInt(readValue(ini, section, key), fallback);
 }
 
 int readNumberWithin(IniFile& ini, const std::string& section, const std::string& key, int least, int largest,
                      int fallback) {
     const int number = readNumber(ini, section, key, fallback);
     return number >= least && number <= largest ? number : fallback;
-}
-
-std::string readText(IniFile& ini, const std::string& section, const std::string& key, const std::string& fallback) {
-    return ini.isAvailable(section, key) ? ini.get(section, key) : fallback;
 }
 
 std::vector<ISensorData::Type> allDataTypes() {
@@ -51,7 +44,7 @@ std::string defaultKey(int type) {
 
 int countSensorSections(IniFile& ini) {
     // The NullSensor, which has no section, counts.
-    const unsigned claimed = readCount(ini, "SensorCount");
+    const unsigned claimed = toUnsigned(readValue(ini, Unnamed, "SensorCount"));
     int count = 0;
     while (static_cast<unsigned>(count) + 1 < claimed && ini.isSectionAvailable(sensorSection(count + 1)))
         ++count;
@@ -59,7 +52,7 @@ int countSensorSections(IniFile& ini) {
 }
 
 int countForwarderSections(IniFile& ini) {
-    const unsigned claimed = readCount(ini, ForwarderCountKey);
+    const unsigned claimed = toUnsigned(readValue(ini, Unnamed, ForwarderCountKey));
     int count = 0;
     while (static_cast<unsigned>(count) < claimed && ini.isSectionAvailable(forwarderSection(count)))
         ++count;

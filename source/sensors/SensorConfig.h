@@ -18,8 +18,6 @@ int readNumber(IniFile& ini, const std::string& section, const std::string& key,
 /// The same, where a number outside least to largest is none.
 int readNumberWithin(IniFile& ini, const std::string& section, const std::string& key, int least, int largest,
                      int fallback);
-/// The text of a value; the fallback when there is no such value.
-std::string readText(IniFile& ini, const std::string& section, const std::string& key, const std::string& fallback);
 
 /// Every data type, in the order of the numbers.
 std::vector<ISensorData::Type> allDataTypes();

@@ -1,6 +1,7 @@
 #include "sensors/SensorSelection.h"
 
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/text/Numbers.h"
 #include "sensors/SensorConfig.h"
 #include "sensors/SensorManager.h"
@@ -49,7 +50,7 @@ std::string SensorSelection::getName(int sensor) const {
     if (ISensorFactory* factory = factoryOf(sensor))
         return factory->getName();
     const std::string section = sensorSection(sensor);
-    return document_->isAvailable(section, "FactoryName") ? document_->get(section, "FactoryName") : "?";
+    return readValue(*document_, section, "FactoryName", "?");
 }
 
 /// Takes the document over, with the section of the sensor set up, when that is accepted.

@@ -1,10 +1,9 @@
+#include "FiniteScalars.h"
 #include "core/time/Time.h"
 #include "sensors/simulators/FlightGearData.h"
 #include "sensors/simulators/FlightGearRecords.h"
 
-#include <cmath>
 #include <cstdint>
-#include <cstdlib>
 
 using namespace skyvane;
 
@@ -18,10 +17,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t length) {
         return 0;
     clock.advance(0.033);
     records.take(data, MilliSecs());
-    for (int type = 0; type < ISensorData::TypeCount; ++type) {
-        const auto* scalar = dynamic_cast<ScalarData*>(records.get(static_cast<ISensorData::Type>(type)));
-        if (scalar && !std::isfinite(scalar->value))
-            std::abort();
-    }
+    requireFiniteScalars([](ISensorData::Type type) { return records.get(type); });
     return 0;
 }

@@ -1,12 +1,11 @@
+#include "FiniteScalars.h"
 #include "core/time/Time.h"
 #include "sensors/SensorManager.h"
 #include "sensors/gdl90/GDL90FrameWriter.h"
 #include "sensors/gdl90/GDL90Sensor.h"
 #include "sensors/gdl90/GDL90SensorFactory.h"
 
-#include <cmath>
 #include <cstdio>
-#include <cstdlib>
 
 using namespace skyvane;
 
@@ -31,10 +30,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t length) {
     }
     clock.advance(0.036);
     sensor.OnDatagram(right.data(), right.size());
-    for (int type = 0; type < ISensorData::TypeCount; ++type) {
-        const auto* scalar = dynamic_cast<ScalarData*>(sensor.getData(static_cast<ISensorData::Type>(type)));
-        if (scalar && !std::isfinite(scalar->value))
-            std::abort();
-    }
+    requireFiniteScalars([](ISensorData::Type type) { return sensor.getData(type); });
     return 0;
 }

@@ -1,13 +1,11 @@
+#include "FiniteScalars.h"
 #include "core/time/Time.h"
 #include "sensors/SensorManager.h"
 #include "sensors/StandardDataFactories.h"
-#include "sensors/records/ScalarData.h"
 #include "sensors/udp/UDPSensorFactory.h"
 
-#include <cmath>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <vector>
 
 using namespace skyvane;
@@ -31,10 +29,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t length) {
     }
     clock.advance(0.036);
     sensor.OnDatagram(right.data(), right.size());
-    for (int type = 0; type < ISensorData::TypeCount; ++type) {
-        const auto* scalar = dynamic_cast<ScalarData*>(sensor.getData(static_cast<ISensorData::Type>(type)));
-        if (scalar && !std::isfinite(scalar->value))
-            std::abort();
-    }
+    requireFiniteScalars([](ISensorData::Type type) { return sensor.getData(type); });
     return 0;
 }

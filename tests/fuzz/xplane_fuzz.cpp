@@ -1,13 +1,11 @@
+#include "FiniteScalars.h"
 #include "core/time/Time.h"
 #include "sensors/SensorManager.h"
 #include "sensors/StandardDataFactories.h"
-#include "sensors/records/ScalarData.h"
 #include "sensors/simulators/XPlaneRecords.h"
 #include "sensors/simulators/XPlaneSensorFactory.h"
 
-#include <cmath>
 #include <cstdint>
-#include <cstdlib>
 
 using namespace skyvane;
 
@@ -22,10 +20,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t length) {
         clock.advance(0.033);
         records.take(bytes, length, MilliSecs());
     }
-    for (int type = 0; type < ISensorData::TypeCount; ++type) {
-        const auto* scalar = dynamic_cast<ScalarData*>(records.get(static_cast<ISensorData::Type>(type)));
-        if (scalar && !std::isfinite(scalar->value))
-            std::abort();
-    }
+    requireFiniteScalars([](ISensorData::Type type) { return records.get(type); });
     return 0;
 }

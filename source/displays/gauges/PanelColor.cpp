@@ -18,7 +18,7 @@ uint32_t readColor(IniFile& ini, const std::string& section, const std::string& 
     uint32_t color = 0;
     for (const auto& [suffix, shift] : channels) {
         const int standard = static_cast<int>((fallback >> shift) & 0xffu);
-        const int value = toInt(readValue(ini, section, name + suffix, ""), standard);
+        const int value = toInt(readValue(ini, section, name + suffix), standard);
         color |= static_cast<uint32_t>(std::clamp(value, 0, 255)) << shift;
     }
     return color;
@@ -27,10 +27,6 @@ uint32_t readColor(IniFile& ini, const std::string& section, const std::string& 
 void writeColor(IniFile& ini, const std::string& section, const std::string& name, uint32_t color) {
     for (const auto& [suffix, shift] : channels)
         ini.set(section, name + suffix, toText(static_cast<int>((color >> shift) & 0xffu)));
-}
-
-std::string readValue(IniFile& ini, const std::string& section, const std::string& key, const std::string& fallback) {
-    return ini.isAvailable(section, key) ? ini.get(section, key) : fallback;
 }
 
 } // namespace skyvane

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/ini/ReadValue.h"
+
 #include <cstdint>
 #include <string>
 
@@ -12,8 +14,5 @@ class IniFile;
 /// A channel that is missing or no number takes the fallback's; one out of range is brought into it. Creates no keys.
 uint32_t readColor(IniFile& ini, const std::string& section, const std::string& name, uint32_t fallback);
 void writeColor(IniFile& ini, const std::string& section, const std::string& name, uint32_t color);
-
-/// The value of a key, or the fallback without one.
-std::string readValue(IniFile& ini, const std::string& section, const std::string& key, const std::string& fallback);
 
 } // namespace skyvane

@@ -1,6 +1,7 @@
 #include "displays/layout/PageLayout.h"
 
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/text/Numbers.h"
 
 #include <algorithm>
@@ -9,12 +10,8 @@ namespace skyvane {
 
 namespace {
 
-std::string valueOf(IniFile& ini, const std::string& section, const char* key) {
-    return ini.isAvailable(section, key) ? ini.get(section, key) : std::string();
-}
-
 int pageOf(IniFile& ini, const std::string& section) {
-    return std::max(0, std::min(toInt(valueOf(ini, section, "Page")), PageLayout::maximumPage));
+    return std::max(0, std::min(toInt(readValue(ini, section, "Page")), PageLayout::maximumPage));
 }
 
 template <class Visit>
@@ -36,7 +33,7 @@ int pixels(double fraction, int extent, int offset) {
 } // namespace
 
 PanelFractions readFractions(IniFile& ini, const std::string& section) {
-    const auto number = [&](const char* key) { return toDouble(valueOf(ini, section, key)); };
+    const auto number = [&](const char* key) { return toDouble(readValue(ini, section, key)); };
     return {number("ViewPortSX"), number("ViewPortSY"), number("ViewPortTX"), number("ViewPortTY")};
 }
 
@@ -60,9 +57,9 @@ PageLayout PageLayout::read(IniFile& ini, const PanelArea& area, bool portrait) 
     forEachPanelSection(ini, [&](const std::string& section) {
         const int page = pageOf(ini, section);
         layout.pageCount = std::max(layout.pageCount, page + 1);
-        if (toBool(valueOf(ini, section, "Portrait")) != portrait)
+        if (toBool(readValue(ini, section, "Portrait")) != portrait)
             return;
-        layout.panels.push_back({section, toInt(valueOf(ini, section, "FactoryIndex"), -1), page,
+        layout.panels.push_back({section, toInt(readValue(ini, section, "FactoryIndex"), -1), page,
                                  panelRect(readFractions(ini, section), area)});
     });
     return layout;
@@ -75,7 +72,7 @@ int PageLayout::pageAt(int page, int steps) const {
 
 int readPanelCount(IniFile& ini) {
     return static_cast<int>(
-        std::clamp(toDouble(valueOf(ini, "", "PanelCount")), 0.0, static_cast<double>(PageLayout::maximumPanels)));
+        std::clamp(toDouble(readValue(ini, "", "PanelCount")), 0.0, static_cast<double>(PageLayout::maximumPanels)));
 }
 
 int calcPageCountFromIni(IniFile& ini) {

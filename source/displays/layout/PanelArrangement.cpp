@@ -1,6 +1,7 @@
 #include "displays/layout/PanelArrangement.h"
 
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/text/Numbers.h"
 
 #include <algorithm>
@@ -9,12 +10,8 @@
 namespace skyvane {
 namespace {
 
-std::string valueOf(IniFile& ini, const std::string& section, const char* key) {
-    return ini.isAvailable(section, key) ? ini.get(section, key) : std::string();
-}
-
 int pageOf(IniFile& ini, int panel) {
-    return std::clamp(toInt(valueOf(ini, PanelArrangement::sectionOf(panel), "Page")), 0, PageLayout::maximumPage);
+    return std::clamp(toInt(readValue(ini, PanelArrangement::sectionOf(panel), "Page")), 0, PageLayout::maximumPage);
 }
 
 /// The edges in order, far enough apart for a finger, and a part of them inside the area.
@@ -70,7 +67,7 @@ void PanelArrangement::turnPage(int step) {
 
 bool PanelArrangement::isShown(int panel) const {
     return panel >= 0 && panel < count_ && pageOf(ini_, panel) == page_ &&
-           toBool(valueOf(ini_, sectionOf(panel), "Portrait")) == portrait_;
+           toBool(readValue(ini_, sectionOf(panel), "Portrait")) == portrait_;
 }
 
 std::vector<int> PanelArrangement::getPanels() const {
@@ -86,12 +83,12 @@ void PanelArrangement::choose(int panel) {
 }
 
 int PanelArrangement::getFactoryIndex(int panel) const {
-    return toInt(valueOf(ini_, sectionOf(panel), "FactoryIndex"), -1);
+    return toInt(readValue(ini_, sectionOf(panel), "FactoryIndex"), -1);
 }
 
 std::string PanelArrangement::getTitle(int panel) const {
-    const std::string name = valueOf(ini_, sectionOf(panel), "FactoryName");
-    const std::string type = valueOf(ini_, sectionOf(panel), "Type");
+    const std::string name = readValue(ini_, sectionOf(panel), "FactoryName");
+    const std::string type = readValue(ini_, sectionOf(panel), "Type");
     return type.empty() ? name : type + " (" + name + ")";
 }
 

@@ -1,6 +1,7 @@
 #include "displays/mapmath/MapSettings.h"
 
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/text/Numbers.h"
 
 #include <algorithm>
@@ -51,9 +52,7 @@ class Section {
 public:
     Section(IniFile& ini, const std::string& name) : ini_(ini), name_(name) {}
 
-    std::string text(const char* key) const {
-        return ini_.isAvailable(name_, key) ? ini_.get(name_, key) : std::string();
-    }
+    std::string text(const char* key) const { return readValue(ini_, name_, key); }
     bool flag(const char* key, bool fallback) const { return toBool(text(key), fallback); }
     int number(const char* key, int fallback, int lowest, int highest) const {
         return std::clamp(toInt(text(key), fallback), lowest, highest);

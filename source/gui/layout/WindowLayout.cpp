@@ -1,6 +1,7 @@
 #include "gui/layout/WindowLayout.h"
 
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/ini/SeparatedString.h"
 #include "core/text/Numbers.h"
 
@@ -44,9 +45,7 @@ auto findWord(const Table& table, const std::string& word) {
 class Section {
 public:
     Section(IniFile& document, std::string name) : document_(document), name_(std::move(name)) {}
-    std::string text(const char* key) const {
-        return document_.isAvailable(name_, key) ? document_.get(name_, key) : std::string();
-    }
+    std::string text(const char* key) const { return readValue(document_, name_, key); }
     int number(const char* key, int fallback) const { return toInt(text(key), fallback); }
 
 private:

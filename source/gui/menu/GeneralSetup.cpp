@@ -5,6 +5,7 @@
 #include "core/files/StandardDocuments.h"
 #include "core/ini/IniFile.h"
 #include "core/ini/IniIterator.h"
+#include "core/ini/ReadValue.h"
 #include "core/system/SystemManager.h"
 #include "core/text/Numbers.h"
 #include "core/text/Utf8.h"
@@ -33,10 +34,6 @@ void addStandardValues(IniFile& config, const std::vector<EditorRow>& rows) {
         if (!config.isAvailable("", key) && standard.isAvailable("", key))
             config.set("", key, standard.get("", key));
     }
-}
-
-std::string valueOf(IniFile& config, const char* key) {
-    return config.isAvailable("", key) ? config.get("", key) : std::string();
 }
 
 void applyScreenMode(Context& context, const std::string& mode) {
@@ -72,7 +69,7 @@ void runGeneralSetup(Context& context) {
     const std::vector<EditorRow> rows = parseEditorSchema(schema);
     addStandardValues(config, rows);
     IniFile options = readPanelOptions(rows, config, "");
-    const std::string formerMode = valueOf(config, "screenMode");
+    const std::string formerMode = readValue(config, "", "screenMode");
     Menu* menu = context.getPanelManager()->getMenu();
     menu->setEnabled(false);
     const bool accepted = IniEditor(&context, "General Setup", schema, "GeneralSetup.hti").run(&options);
@@ -82,10 +79,10 @@ void runGeneralSetup(Context& context) {
     writePanelOptions(rows, options, config, "");
     if (!saveConfig(context, config))
         return;
-    context.getSensorManager()->setShowPopups(toBool(valueOf(config, "showPopups")));
+    context.getSensorManager()->setShowPopups(toBool(readValue(config, "", "showPopups")));
     context.getInputSystem()->loadInputSettingsFromIni(&config);
     reloadPanels(context, config);
-    const std::string mode = valueOf(config, "screenMode");
+    const std::string mode = readValue(config, "", "screenMode");
     if (mode != (formerMode.empty() ? "Auto" : formerMode))
         applyScreenMode(context, mode);
 }

@@ -4,6 +4,7 @@
 #include "core/ModalLoop.h"
 #include "core/engine/EngineRef.h"
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/text/Utf8.h"
 #include "core/threads/AParallelFunction.h"
 #include "gui/windows/CMBox.h"
@@ -106,10 +107,11 @@ bool runBTConnectionCheck(Context* context, const BluetoothDevice* device) {
 }
 
 std::vector<BluetoothDevice> initFromExtConfig(IniFile& document) {
-    if (!document.isAvailable("", "btAddress") || document.get("", "btAddress").empty())
+    const std::string address = readValue(document, "", "btAddress");
+    if (address.empty())
         return {};
-    const std::string name = document.isAvailable("", "btDevice") ? document.get("", "btDevice") : "[unknown]";
-    return {BluetoothDevice(document.get("", "btAddress"), name)};
+    const std::string name = readValue(document, "", "btDevice", "[unknown]");
+    return {BluetoothDevice(address, name)};
 }
 
 void storeExtConfig(IniFile& document, const BluetoothDevice& device) {

@@ -1,6 +1,7 @@
 #include "procedures/framework/ProcedureKeys.h"
 
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/text/Numbers.h"
 
 #include <cmath>
@@ -19,7 +20,7 @@ ProcedureKeys::ProcedureKeys(IniFile& document, std::string section, unsigned in
     : document_(document), section_(std::move(section)), prefix_("proc[" + std::to_string(index) + "].") {}
 
 std::string ProcedureKeys::text(const char* name, const std::string& fallback) const {
-    return document_.isAvailable(section_, key(name)) ? document_.get(section_, key(name)) : fallback;
+    return readValue(document_, section_, key(name), fallback);
 }
 
 double ProcedureKeys::number(const char* name, double fallback, double least, double most) const {

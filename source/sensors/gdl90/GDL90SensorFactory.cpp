@@ -1,5 +1,6 @@
 #include "sensors/gdl90/GDL90SensorFactory.h"
 
+#include "core/ini/ReadValue.h"
 #include "sensors/ISensorDialogs.h"
 #include "sensors/SensorConfig.h"
 #include "sensors/gdl90/GDL90Records.h"
@@ -29,7 +30,7 @@ GDL90SensorFactory::GDL90SensorFactory(SensorManager* sensors, ISensorDialogs* d
 
 void GDL90SensorFactory::loadSetupFromIni(IniFile* ini, std::string section) {
     port_ = readNumberWithin(*ini, section, "port", 0, LargestPort, DefaultPort);
-    flavor_ = flavorOf(readText(*ini, section, "flavor", ""));
+    flavor_ = flavorOf(readValue(*ini, section, "flavor"));
 }
 
 bool GDL90SensorFactory::setup(IniFile* ini, std::string section) {

@@ -2,6 +2,7 @@
 
 #include "core/files/Paths.h"
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/log/Logger.h"
 #include "core/text/Utf8.h"
 #include "sensors/ISensorDialogs.h"
@@ -31,9 +32,9 @@ LogFileSensorFactory::LogFileSensorFactory(SensorManager* sensors, ISensorDialog
       folder_(std::move(folder)) {}
 
 void LogFileSensorFactory::loadSetupFromIni(IniFile* ini, std::string section) {
-    const std::string name = readText(*ini, section, "fileName", "");
+    const std::string name = readValue(*ini, section, "fileName");
     path_ = logPath(folder_, name);
-    level_ = levelOf(readText(*ini, section, "level", ""));
+    level_ = levelOf(readValue(*ini, section, "level"));
     if (path_.empty() || !fileExist(path_))
         logText("ERROR: File " + folder_ + name + " does not exist.\n");
 }

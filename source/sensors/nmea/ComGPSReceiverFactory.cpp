@@ -1,5 +1,6 @@
 #include "sensors/nmea/ComGPSReceiverFactory.h"
 
+#include "core/ini/ReadValue.h"
 #include "sensors/ISensorDialogs.h"
 #include "sensors/SensorConfig.h"
 #include "sensors/nmea/ComGPSReceiver.h"
@@ -27,7 +28,7 @@ ComGPSReceiverFactory::ComGPSReceiverFactory(ISensorDialogs* dialogs)
       bufferSize_(DefaultBuffer), timeoutMs_(DefaultTimeoutMs), baudRate_(DefaultBaudRate) {}
 
 void ComGPSReceiverFactory::loadSetupFromIni(IniFile* ini, std::string section) {
-    device_ = readText(*ini, section, "device", DefaultDevice);
+    device_ = readValue(*ini, section, "device", DefaultDevice);
     bufferSize_ = readNumberWithin(*ini, section, "bufferSize", 1, LargestBuffer, DefaultBuffer);
     timeoutMs_ = readNumberWithin(*ini, section, "timeoutMs", 1, LongestTimeoutMs, DefaultTimeoutMs);
     baudRate_ = readNumberWithin(*ini, section, "baudRate", 1, LargestBaudRate, DefaultBaudRate);

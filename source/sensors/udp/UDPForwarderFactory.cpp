@@ -1,6 +1,7 @@
 #include "sensors/udp/UDPForwarderFactory.h"
 
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/text/Numbers.h"
 #include "sensors/ISensorDialogs.h"
 #include "sensors/SensorConfig.h"
@@ -43,7 +44,7 @@ bool UDPForwarderFactory::loadSetupFromIni(IniFile* ini, std::string section) {
     const UDPForwarderOptions defaults;
     options_.ipv6 = readNumber(*ini, section, "Ipv6", defaults.ipv6) != 0;
     options_.broadcast = readNumber(*ini, section, "Broadcast", defaults.broadcast) != 0;
-    options_.targetAddress = readText(*ini, section, "TargetAddress", defaults.targetAddress);
+    options_.targetAddress = readValue(*ini, section, "TargetAddress", defaults.targetAddress);
     options_.targetPort = readNumberWithin(*ini, section, "TargetPort", 1, LargestPort, defaults.targetPort);
     recalculateTypeMapping();
     return true;

@@ -1,6 +1,7 @@
 #include "procedures/aircraft/profiles/Aircraft.h"
 
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/ini/SeparatedString.h"
 #include "core/text/Numbers.h"
 
@@ -25,11 +26,6 @@ constexpr SpeedKey ascending[][2] = {
     {{"Vfe", &Aircraft::Vfe}, {"Vne", &Aircraft::Vne}}, {{"Vsse", &Aircraft::Vsse}, {"Vne", &Aircraft::Vne}},
     {{"Vbe", &Aircraft::Vbe}, {"Vne", &Aircraft::Vne}}, {{"Vbg", &Aircraft::Vbg}, {"Vne", &Aircraft::Vne}}};
 
-/// Without creating the key.
-std::string valueOf(IniFile& ini, const std::string& section, const std::string& key) {
-    return ini.isAvailable(section, key) ? ini.get(section, key) : std::string();
-}
-
 std::string joined(const std::list<std::string>& lines) {
     std::string text;
     for (const std::string& line : lines)
@@ -40,17 +36,17 @@ std::string joined(const std::list<std::string>& lines) {
 } // namespace
 
 void Aircraft::readFromIni(IniFile& ini, const std::string& section) {
-    name = valueOf(ini, section, "Name");
+    name = readValue(ini, section, "Name");
     for (const SpeedKey& each : speedKeys)
-        this->*each.speed = std::max(toInt(valueOf(ini, section, each.key), none), none);
-    const double ratio = toDouble(valueOf(ini, section, "inverseGlideRatio"), -1.0);
+        this->*each.speed = std::max(toInt(readValue(ini, section, each.key), none), none);
+    const double ratio = toDouble(readValue(ini, section, "inverseGlideRatio"), -1.0);
     inverseGlideRatio = ratio < 0.0 ? -1.0 : ratio;
     checklists.clear();
-    const int count = std::min(toInt(valueOf(ini, section, "ListCount")), maximumCheckLists);
+    const int count = std::min(toInt(readValue(ini, section, "ListCount")), maximumCheckLists);
     for (int i = 0; i < count; ++i) {
         const std::string key = "L" + toText(i);
-        const auto lines = parseSeperatedString(valueOf(ini, section, key), '|');
-        checklists.push_back({valueOf(ini, section, key + ".Name"), {lines.begin(), lines.end()}});
+        const auto lines = parseSeperatedString(readValue(ini, section, key), '|');
+        checklists.push_back({readValue(ini, section, key + ".Name"), {lines.begin(), lines.end()}});
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/files/StandardDocuments.h"
 #include "core/ini/IniFile.h"
+#include "core/ini/ReadValue.h"
 #include "core/text/Numbers.h"
 
 #include <algorithm>
@@ -11,7 +12,7 @@ namespace skyvane {
 namespace {
 
 int numberOf(IniFile& ini, const char* key) {
-    return ini.isAvailable("", key) ? toInt(ini.get("", key)) : 0;
+    return toInt(readValue(ini, "", key));
 }
 
 std::string sectionName(int index) {
