@@ -7,6 +7,7 @@ of the synthetic view.
 The drawings are committed; run this again only to change them. The middle of sky_front is the horizon, its upper and lower
 edges lie 45 degrees above and below; sky_top and sky_bottom go on from there to the middle, which is zenith and nadir.
 """
+import math
 import pathlib
 import sys
 
@@ -101,11 +102,50 @@ def aoa_pointer():
                        'stroke-linejoin="round"/>')
 
 
+def edged(path, color, width, edge=6, fill="none"):
+    """A line with a dark edge on both sides, so that it shows on snow."""
+    return "".join(f'<path d="{path}" fill="{fill}" stroke="{stroke}" stroke-width="{wide}" stroke-linejoin="miter"/>'
+                   for stroke, wide in (("#05070a", width + edge), (color, width)))
+
+
+def pfd_bank_bg():
+    """The bank scale to be tinted, 400 units of radius around 0, 0, from 60 degrees left to 60 degrees right."""
+    def at(degrees, radius):
+        angle = math.radians(degrees)
+        return f"{radius * math.sin(angle):.1f} {-radius * math.cos(angle):.1f}"
+    marks = "".join(f"M{at(mark, 400)}L{at(mark, 440 if mark % 30 == 0 else 424)}"
+                    for mark in (-60, -45, -30, -20, -10, 10, 20, 30, 45, 60))
+    arc = f"M{at(-60, 400)}A400 400 0 0 1 {at(60, 400)}"
+    zero = "M0-402L22-436H-22Z"
+    return svg(1200, 420, edged(arc + marks, "#ffffff", 6) + edged(zero, "#ffffff", 3, fill="#ffffff"),
+               (-400, -460, 800, 280))
+
+
+def pfd_bank_arrow():
+    """The pointer below the scale's middle; its tip is the middle of the upper edge."""
+    return svg(180, 150, edged("M30 8L54 43H6Z", "#ffc31f", 3, fill="#ffc31f"), (0, 0, 60, 50))
+
+
+def pfd_bank_arrow2():
+    """The brick below the pointer, to be tinted: it slides to where a ball would lie."""
+    return svg(180, 60, '<rect x="4" y="4" width="52" height="12" fill="#ffffff" stroke="#05070a" stroke-width="3"/>',
+               (0, 0, 60, 20))
+
+
+def pfd_frame():
+    """Where the nose points in a pilot's view: wings and the middle, at 0, 0, to the bank scale's measure."""
+    wings = "M-220 0H-100V40M220 0H100V40"
+    return svg(1000, 180, edged(wings, "#ffc31f", 11) + edged("M-7-7H7V7H-7Z", "#ffc31f", 4, fill="#ffc31f"),
+               (-250, -30, 500, 90))
+
+
 def main(folder):
     drawings = {"sky_front": sky_front(), "sky_top": cap(ZENITH, EDGE["sky"]),
                 "sky_bottom": cap(NADIR, EDGE["ground"]), "terrainGradient": terrain_gradient(),
                 "traffic3d": traffic3d(), "map3d_preview": map3d_preview(),
-                "pfdSpeedBar": pfd_speed_bar(), "pfd_ptr": pfd_ptr(), "aoa": aoa(), "aoaPointer": aoa_pointer()}
+                "pfdSpeedBar": pfd_speed_bar(), "pfd_ptr": pfd_ptr(), "aoa": aoa(), "aoaPointer": aoa_pointer(),
+                "pfdBankBg": pfd_bank_bg(), "pfdBankArrow": pfd_bank_arrow(), "pfdBankArrow2": pfd_bank_arrow2(),
+                "pfdFrame": pfd_frame()}
     for name, drawing in drawings.items():
         (pathlib.Path(folder) / f"{name}.svg").write_text(drawing)
 

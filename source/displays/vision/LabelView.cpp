@@ -13,7 +13,7 @@
 namespace skyvane {
 namespace {
 
-constexpr double leastHeight = 15.0, heightShare = 1.0 / 42.0; // of a label, by the panel's height
+constexpr double leastHeight = 22.0, heightShare = 1.0 / 32.0; // of a label, by the panel's shorter side
 constexpr double poleHeights = 1.6;
 constexpr uint32_t poleColor = 0xc0ffffff;
 const irr::video::SColor background(0xb0101820);
@@ -52,7 +52,8 @@ LabelView::Slot& LabelView::slotOf(int id) {
 
 void LabelView::draw(const SceneStage& stage, const ElementScene& elements, const ChartPosition& aircraft,
                      const irr::core::rect<int>& panel, const irr::core::rect<int>& free) {
-    const int height = static_cast<int>(std::max(leastHeight, heightShare * panel.getHeight()));
+    const int height =
+        static_cast<int>(std::max(leastHeight, heightShare * std::min(panel.getWidth(), panel.getHeight())));
     queue(stage, elements, aircraft, height);
     const std::vector<LabelPicker::Label>& chosen = picker_.pick(mostShown, free - panel.UpperLeftCorner);
     if (chosen.empty())

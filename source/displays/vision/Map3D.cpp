@@ -137,7 +137,7 @@ void Map3D::renderGlass() {
     }
     const bool attitudeStandsIn = firstPerson_ && !readings_.trust.isAttitudeShown();
     const bool incomplete = effective_.terrain && isPlaceKnown() && terrain_.isIncomplete(readings_.position);
-    flags_.draw(rect_, scene.free, readings_.trust, attitudeStandsIn, incomplete);
+    flags_.draw(rect_, scene.free, bars_.getNextFixRect(rect_), readings_.trust, attitudeStandsIn, incomplete);
 }
 
 void Map3D::renderBars() {

@@ -30,8 +30,8 @@ void SceneFlags::drawBox(size_t which, const wchar_t* words, const rect<int>& bo
                        color);
 }
 
-void SceneFlags::draw(const rect<int>& panel, const rect<int>& free, const SceneTrust& trust, bool standsIn,
-                      bool terrainIncomplete) {
+void SceneFlags::draw(const rect<int>& panel, const rect<int>& free, const rect<int>& corner, const SceneTrust& trust,
+                      bool standsIn, bool terrainIncomplete) {
     if (standsIn) {
         rect<int> square = free;
         makeQuadratic(square);
@@ -59,8 +59,10 @@ void SceneFlags::draw(const rect<int>& panel, const rect<int>& free, const Scene
     }
     if (!terrainIncomplete)
         return;
-    const int half = std::min(free.getWidth() / 2, height * 5), line = height * 5 / 6;
-    const int middle = free.getCenter().X, y = top + height + gap;
+    const int line = height * 5 / 6, middle = free.getCenter().X, y = top + height + gap;
+    int half = std::min(free.getWidth() / 2, height * 5);
+    if (y + line > corner.UpperLeftCorner.Y)
+        half = std::min(half, middle - corner.LowerRightCorner.X - gap);
     drawBox(terrainWords, L"TERRAIN INCOMPLETE", {middle - half, y, middle + half, y + line}, amber);
 }
 

@@ -18,10 +18,10 @@ class SceneFlags {
 public:
     explicit SceneFlags(Context* context);
 
-    /// `rect` is the panel on the screen, `free` what its instruments leave of it. `standsIn` when there is no scene,
-    /// since the attitude failed.
-    void draw(const irr::core::rect<int>& rect, const irr::core::rect<int>& free, const SceneTrust& trust,
-              bool standsIn, bool terrainIncomplete);
+    /// `rect` is the panel on the screen, `free` what its instruments leave of it, `corner` a place at its lower left
+    /// that stays free too. `standsIn` when there is no scene, since the attitude failed.
+    void draw(const irr::core::rect<int>& rect, const irr::core::rect<int>& free, const irr::core::rect<int>& corner,
+              const SceneTrust& trust, bool standsIn, bool terrainIncomplete);
 
 private:
     void drawBox(size_t which, const wchar_t* words, const irr::core::rect<int>& box, irr::video::SColor color);

@@ -5,6 +5,7 @@
 #include "gui/font/FlexibleFont.h"
 #include "gui/font/RimmedLetters.h"
 
+#include <cmath>
 #include <cstdlib>
 #include <cwchar>
 
@@ -16,7 +17,11 @@ constexpr double sliverShare = 0.09;
 
 } // namespace
 
-SymbolView::SymbolView(Context* context) : context_(context), drawer_(context->getDrawer()) {}
+SymbolView::SymbolView(Context* context)
+    : context_(context), drawer_(context->getDrawer()), pictures_{loadPanelImage(context, "media/pfdBankBg.png"),
+                                                                  loadPanelImage(context, "media/pfdBankArrow.png"),
+                                                                  loadPanelImage(context, "media/pfdBankArrow2.png"),
+                                                                  loadPanelImage(context, "media/pfdFrame.png")} {}
 
 void SymbolView::draw(const Scene& scene) {
     const Lens lens(scene.rect.getWidth(), scene.rect.getHeight());
@@ -25,22 +30,39 @@ void SymbolView::draw(const Scene& scene) {
     const PitchLadder ladder(scene.pose, lens, symbols.getLadderReach());
     HorizonLine horizon = calcHorizon(scene.pose, lens);
     const HorizonLine seen = horizon;
+    drawer_->setViewPort(scene.rect);
     shapes_.clear();
     if (keepInView(horizon, lens, sliverShare * lens.height))
         symbols.addSliver(shapes_, horizon);
     symbols.addHorizon(shapes_, horizon, color);
     symbols.addLadder(shapes_, ladder, color);
+    drawer_->draw(shapes_);
     if (scene.hasBankScale)
-        symbols.addBankScale(shapes_, scene.bankDegrees, scene.sideways ? &*scene.sideways : nullptr, color);
-    const auto path = scene.velocity ? lens.project(scene.pose, *scene.velocity) : std::nullopt;
-    if (path)
+        drawBankScale(scene, symbols, scene.isDoubtful ? GlassSymbols::doubtfulColor : GlassSymbols::markColor);
+    draw(symbols.getFrame(), irr::video::SColor(0xffffffff));
+    shapes_.clear();
+    if (const auto path = scene.velocity ? lens.project(scene.pose, *scene.velocity) : std::nullopt)
         symbols.addFlightPath(shapes_, *path);
-    symbols.addAircraft(shapes_);
     symbols.addChevrons(shapes_, seen, scene.pitchDegrees, scene.bankDegrees);
-    drawer_->setViewPort(scene.rect);
     drawer_->draw(shapes_);
     drawer_->resetViewPort();
     drawNumbers(scene, symbols, ladder, irr::video::SColor(color));
+}
+
+void SymbolView::draw(const GlassPicture& picture, irr::video::SColor color) {
+    const auto pixel = [](double value) { return static_cast<int>(std::lround(value)); };
+    drawer_->setColor(color);
+    drawer_->Draw(pictures_[picture.kind].get(), {pixel(picture.place.X), pixel(picture.place.Y)},
+                  {pixel(picture.size.X), pixel(picture.size.Y)}, static_cast<float>(picture.rotationDegrees),
+                  {static_cast<float>(picture.pivot.X), static_cast<float>(picture.pivot.Y)});
+    drawer_->setColor(irr::video::SColor(0xffffffff));
+}
+
+void SymbolView::drawBankScale(const Scene& scene, const GlassSymbols& symbols, uint32_t color) {
+    draw(symbols.getBankScale(scene.bankDegrees), irr::video::SColor(color));
+    draw(symbols.getBankPointer(), irr::video::SColor(0xffffffff));
+    if (scene.sideways)
+        draw(symbols.getBall(*scene.sideways), irr::video::SColor(color));
 }
 
 void SymbolView::drawNumbers(const Scene& scene, const GlassSymbols& symbols, const PitchLadder& ladder,

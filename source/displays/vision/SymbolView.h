@@ -1,5 +1,6 @@
 #pragma once
 
+#include "displays/instruments/PanelTexture.h"
 #include "displays/shapes/ShapeMesh.h"
 #include "displays/visionmath/GlassSymbols.h"
 #include "gui/font/CachedText.h"
@@ -33,11 +34,14 @@ public:
     void draw(const Scene& scene);
 
 private:
+    void draw(const GlassPicture& picture, irr::video::SColor color);
+    void drawBankScale(const Scene& scene, const GlassSymbols& symbols, uint32_t color);
     void drawNumbers(const Scene& scene, const GlassSymbols& symbols, const PitchLadder& ladder,
                      irr::video::SColor color);
 
     Context* context_;
     Drawer2D* drawer_;
+    std::array<PanelTexture, GlassPicture::kinds> pictures_;
     ShapeMesh shapes_;
     std::array<CachedText, 10> numbers_; ///< Of each tenth degree.
 };

@@ -25,7 +25,9 @@ namespace {
 constexpr int unknownAltitude = -100000;
 constexpr double unknownDegrees = -360.0;
 constexpr uint32_t trafficColor = 0xff87a3ff;
-constexpr double symbolShare = 0.065; // of the panel's height
+constexpr double symbolShare = 0.065; // of the panel's height, or of its width where that is smaller
+/// Of the whole line, whose digits are about half as high.
+constexpr double leastTextHeight = 22.0, textShare = 0.6;
 /// A mesh seems at least as large as this share of its distance, so that it can be seen far off.
 constexpr double leastShare = 0.012;
 constexpr double leastMetres = 15.0;
@@ -79,7 +81,7 @@ void TrafficView::drawMeshes(SceneStage& stage, const ChartPosition& origin, dou
 void TrafficView::drawSymbols(const SceneStage& stage, const irr::core::rect<int>& rect) {
     shapes_.clear();
     FlexibleFont* font = context_->getFlexibleFont();
-    const double edge = symbolShare * rect.getHeight();
+    const double edge = symbolShare * std::min(rect.getWidth(), rect.getHeight());
     const bool metric = context_->getPanelManager()->isMetric();
     ShapePath frame(4);
     std::array<Lens::Point, mostShown> places;
@@ -112,11 +114,14 @@ void TrafficView::drawSymbols(const SceneStage& stage, const irr::core::rect<int
                           roundHalfAway(targets_[i].aboveMetres / (metric ? 10.0 : 100.0 * MetresPerFoot)));
         texts_[i].set(font, digits, irr::video::SColor(trafficColor));
         const auto height = static_cast<float>(std::max(texts_[i].getDimension().Height, 1u));
-        const float scale = static_cast<float>(std::max(0.36 * edge, 14.0)) / height;
+        const float scale = static_cast<float>(std::max(textShare * edge, leastTextHeight)) / height;
         const double below = targets_[i].aboveMetres < 0.0 ? 1.0 : -1.0;
-        texts_[i].drawRotated(rect,
-                              {static_cast<float>(places[i].X), static_cast<float>(places[i].Y + below * 0.78 * edge)},
-                              {scale, scale}, 0.0f);
+        texts_[i].drawRotated(
+            rect,
+            {static_cast<float>(places[i].X),
+             static_cast<float>(places[i].Y +
+                                below * (0.55 * edge + 0.4 * std::max(textShare * edge, leastTextHeight)))},
+            {scale, scale}, 0.0f);
     }
 }
 

@@ -49,18 +49,6 @@ void GlassSymbols::segment(ShapeMesh& mesh, const ShapePoint& a, const ShapePoin
     line(mesh, width, argb);
 }
 
-void GlassSymbols::triangle(ShapeMesh& mesh, const ShapePoint& tip, const ShapePoint& back, double halfWidth,
-                            uint32_t argb) {
-    ShapePoint direction = tip - back;
-    const ShapePoint aside = across(direction.normalize()) * halfWidth;
-    path_.clear();
-    path_.push_back(tip);
-    path_.push_back(back + aside);
-    path_.push_back(back - aside);
-    addConvex(mesh, path_, argb);
-    line(mesh, 1.0, argb, true);
-}
-
 Lens::Point GlassSymbols::getNumberPlace(const PitchRung& rung, int side) const {
     return rung.centre + rung.along * (side * (getRungHalfLength(rung) + numberHeight_));
 }
@@ -93,23 +81,6 @@ void GlassSymbols::addSliver(ShapeMesh& mesh, const HorizonLine& horizon) {
         addConvex(mesh, path_, sky ? skyColor : groundColor);
 }
 
-void GlassSymbols::addAircraft(ShapeMesh& mesh) {
-    const ShapePoint middle = lens_.getCentre();
-    const double unit = arcRadius_ / 20.0, width = 2.2 * line_;
-    for (const double side : {-1.0, 1.0}) {
-        path_.clear();
-        for (const auto& [x, y] : {std::pair(11.0, 0.0), {5.0, 0.0}, {5.0, 2.0}})
-            path_.push_back(middle + ShapePoint(side * x * unit, y * unit));
-        line(mesh, width, symbolColor);
-    }
-    path_.clear();
-    const double half = 0.7 * width;
-    for (const auto& [x, y] : {std::pair(-half, -half), {half, -half}, {half, half}, {-half, half}})
-        path_.push_back(middle + ShapePoint(x, y));
-    addConvex(mesh, path_, symbolColor);
-    line(mesh, 1.0, symbolColor, true);
-}
-
 void GlassSymbols::addFlightPath(ShapeMesh& mesh, const Lens::Point& place) {
     const double radius = arcRadius_ / 14.0;
     path_.clear();
@@ -121,32 +92,36 @@ void GlassSymbols::addFlightPath(ShapeMesh& mesh, const Lens::Point& place) {
                 line_, pathColor);
 }
 
-void GlassSymbols::addBankScale(ShapeMesh& mesh, double bankDegrees, const double* sideways, uint32_t argb) {
-    const ShapePoint middle = lens_.getCentre();
-    const double unit = arcRadius_ / 20.0;
-    const double bank = std::isfinite(bankDegrees) ? Angle180(bankDegrees) : 0.0;
-    path_.clear();
-    constexpr double step = 5.0;
-    for (double degrees = -bankScaleDegrees; degrees <= bankScaleDegrees; degrees += step)
-        path_.push_back(middle + clock(degrees - bank) * arcRadius_);
-    line(mesh, line_, argb);
-    for (const int mark : {-60, -45, -30, -20, -10, 10, 20, 30, 45, 60}) {
-        const ShapePoint out = clock(mark - bank);
-        const double length = mark % 30 == 0 ? 2.0 * unit : 1.2 * unit;
-        segment(mesh, middle + out * arcRadius_, middle + out * (arcRadius_ + length), line_, argb);
-    }
-    const ShapePoint zero = clock(-bank);
-    triangle(mesh, middle + zero * arcRadius_, middle + zero * (arcRadius_ + 1.8 * unit), 1.1 * unit, argb);
-    const ShapePoint up(0.0, -1.0);
-    triangle(mesh, middle + up * (arcRadius_ - 0.4 * unit), middle + up * (arcRadius_ - 2.2 * unit), 1.2 * unit,
-             symbolColor);
-    if (!sideways || !std::isfinite(*sideways))
-        return;
-    // The brick below the pointer slides to where a ball would lie.
-    constexpr double steepness = 1.732875, reach = 9.0;
-    const double offset = std::copysign(1.0 - std::exp(-steepness * std::abs(*sideways)), *sideways) * reach * unit;
-    const ShapePoint brick = middle + up * (arcRadius_ - 2.9 * unit) + ShapePoint(offset, 0.0);
-    segment(mesh, brick - ShapePoint(1.2 * unit, 0.0), brick + ShapePoint(1.2 * unit, 0.0), 0.55 * unit, markColor);
+/// The drawings measure in parts of the bank scale's radius, which is 400 there.
+GlassPicture GlassSymbols::makePicture(GlassPicture::Kind kind, const ShapePoint& place, double width,
+                                       double height) const {
+    const double scale = arcRadius_ / 400.0;
+    return {kind, lens_.getCentre() + place * scale, ShapePoint(width * scale, height * scale), ShapePoint(0.5, 0.5)};
+}
+
+GlassPicture GlassSymbols::getFrame() const {
+    GlassPicture picture = makePicture(GlassPicture::Frame, {0.0, 0.0}, 500.0, 90.0);
+    picture.pivot.Y = 30.0 / 90.0;
+    return picture;
+}
+
+GlassPicture GlassSymbols::getBankScale(double bankDegrees) const {
+    GlassPicture picture = makePicture(GlassPicture::BankScale, {0.0, 0.0}, 800.0, 280.0);
+    picture.pivot.Y = 460.0 / 280.0;
+    picture.rotationDegrees = std::isfinite(bankDegrees) ? Angle180(bankDegrees) : 0.0;
+    return picture;
+}
+
+GlassPicture GlassSymbols::getBankPointer() const {
+    GlassPicture picture = makePicture(GlassPicture::BankPointer, {0.0, -396.0}, 60.0, 50.0);
+    picture.pivot.Y = 0.0;
+    return picture;
+}
+
+GlassPicture GlassSymbols::getBall(double sideways) const {
+    constexpr double steepness = 1.732875, reach = 180.0;
+    const double way = std::isfinite(sideways) ? 1.0 - std::exp(-steepness * std::abs(sideways)) : 0.0;
+    return makePicture(GlassPicture::Ball, {std::copysign(way * reach, sideways), -338.0}, 60.0, 20.0);
 }
 
 void GlassSymbols::chevron(ShapeMesh& mesh, const ShapePoint& tip, const ShapePoint& towards) {

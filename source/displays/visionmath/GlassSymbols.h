@@ -8,6 +8,18 @@
 
 namespace skyvane {
 
+/// A picture over a pilot's view, in pixels of the panel.
+struct GlassPicture {
+    enum Kind { BankScale, BankPointer, Ball, Frame };
+    static constexpr size_t kinds = 4;
+
+    Kind kind;
+    ShapePoint place; ///< Where its pivot lies.
+    ShapePoint size;
+    ShapePoint pivot;             ///< In parts of the size.
+    double rotationDegrees = 0.0; ///< Anticlockwise.
+};
+
 /// The symbols that stand over a pilot's view, as shapes in pixels of the panel. Lines have a dark edge, so that they
 /// show on snow and on rock.
 ///
@@ -16,11 +28,10 @@ namespace skyvane {
 class GlassSymbols {
 public:
     static constexpr uint32_t ladderColor = 0xffdcdcdc, markColor = 0xffe6e6e6, doubtfulColor = 0xffffe11f;
-    static constexpr uint32_t symbolColor = 0xffffc31f, pathColor = 0xff40ff60, warningColor = 0xfff01c28;
+    static constexpr uint32_t pathColor = 0xff40ff60, warningColor = 0xfff01c28;
     static constexpr uint32_t skyColor = 0xff4f8fd0, groundColor = 0xff5b4630;
     /// Beyond these red chevrons show the way back.
     static constexpr double steepDegrees = 30.0, bankedDegrees = 60.0;
-    static constexpr double bankScaleDegrees = 60.0;
 
     /// `free` is what other instruments leave of the panel.
     GlassSymbols(const Lens& lens, const irr::core::rect<int>& free);
@@ -34,16 +45,20 @@ public:
     Lens::Point getNumberPlace(const PitchRung& rung, int side) const;
     double getNumberHeight() const { return numberHeight_; }
 
+    /// The way that the nose points: the wings of the aircraft flown.
+    GlassPicture getFrame() const;
+    /// Arc and marks turn with the horizon, the pointer stays.
+    GlassPicture getBankScale(double bankDegrees) const;
+    GlassPicture getBankPointer() const;
+    /// `sideways`, -1 to 1, says where it lies.
+    GlassPicture getBall(double sideways) const;
+
     void addLadder(ShapeMesh& mesh, const PitchLadder& ladder, uint32_t argb);
     /// All across the panel.
     void addHorizon(ShapeMesh& mesh, const HorizonLine& line, uint32_t argb);
     /// What of sky or ground the picture below doesn't show, beyond a line that was brought into view.
     void addSliver(ShapeMesh& mesh, const HorizonLine& line);
-    /// The way that the nose points: the wings of the aircraft flown.
-    void addAircraft(ShapeMesh& mesh);
     void addFlightPath(ShapeMesh& mesh, const Lens::Point& place);
-    /// Arc and marks turn with the horizon, the pointer stays. The ball lies at `sideways` (-1 to 1), if that is known.
-    void addBankScale(ShapeMesh& mesh, double bankDegrees, const double* sideways, uint32_t argb);
     /// Towards the horizon when the attitude needs it; nothing otherwise.
     void addChevrons(ShapeMesh& mesh, const HorizonLine& line, double pitchDegrees, double bankDegrees);
 
@@ -51,7 +66,7 @@ private:
     void line(ShapeMesh& mesh, double width, uint32_t argb, bool isClosed = false);
     void segment(ShapeMesh& mesh, const ShapePoint& a, const ShapePoint& b, double width, uint32_t argb);
     void chevron(ShapeMesh& mesh, const ShapePoint& tip, const ShapePoint& towards);
-    void triangle(ShapeMesh& mesh, const ShapePoint& tip, const ShapePoint& back, double halfWidth, uint32_t argb);
+    GlassPicture makePicture(GlassPicture::Kind kind, const ShapePoint& place, double width, double height) const;
 
     ShapePath path_; ///< Of the line that is being added; keeps its memory.
     Lens lens_;

@@ -1,6 +1,8 @@
 #include "displays/vision/Map3D.h"
 
+#include "displays/vision/VisionReader.h"
 #include "displays/vision/VisionRig.h"
+#include "displays/visionmath/GlassSymbols.h"
 #include "displays/visionmath/HorizonLine.h"
 #include "procedures/ProcedureManager.h"
 #include "sensors/records/Traffic_Data.h"
@@ -132,6 +134,26 @@ TEST_F(Map3DTest, neitherHidesMissingTerrainNorShowsItAsSea) {
     EXPECT_TRUE(isEarth(gl.pixel(30, height - 20)));
 }
 
+TEST_F(Map3DTest, takesNoFarSampleOfACoarseTileForTheGround) {
+    saveFlatEarth(300);
+    // Only the whole earth's tile tells a height.
+    for (const auto& entry : std::filesystem::directory_iterator(home + "/.Skyvane/Terrain/"))
+        if (entry.path().filename() != "0.terr")
+            std::filesystem::remove(entry.path());
+    makePanel();
+    fly({1.5, 42.5}, 1000.0, 0.0, -20.0, 0.0);
+    ASSERT_TRUE(waitForTerrain());
+    const irr::core::rect<int> box(width / 4, height * 3 / 4, width * 3 / 4, height),
+        ground(5, height - 40, 60, height);
+    const auto isGrey = [](irr::video::SColor c) {
+        return c.getBlue() > c.getGreen() && c.getBlue() < c.getRed() + 30;
+    };
+    frame("vision_coarse.png");
+    EXPECT_GT(share(box, isAmber), 0.005) << "TERRAIN INCOMPLETE";
+    EXPECT_GT(share(ground, isGrey), 0.9) << "not meadows";
+    EXPECT_TRUE(std::isinf(readVision(*context).groundMetres)) << "no height above it";
+}
+
 TEST_F(Map3DTest, flagsWhatCannotBeBelieved) {
     saveFlatEarth(500);
     makePanel();
@@ -156,9 +178,12 @@ TEST_F(Map3DTest, flagsWhatCannotBeBelieved) {
     sensor->levels.clear();
     frame();
     const double before = share(area, isYellow);
-    sensor->levels = {{ISensorData::Attitude, ISensor::MAYBE_WRONG}};
-    frame();
-    EXPECT_GT(share(area, isYellow), before + 0.004) << "horizon and ladder turn yellow";
+    for (const auto type :
+         {ISensorData::Attitude, ISensorData::Position, ISensorData::Altitude, ISensorData::Heading}) {
+        sensor->levels = {{type, ISensor::MAYBE_WRONG}};
+        frame();
+        EXPECT_GT(share(area, isYellow), before + 0.004) << "horizon and ladder turn yellow, " << type;
+    }
     sensor->levels = {{ISensorData::Attitude, ISensor::WRONG}};
     frame("vision_att.png");
     EXPECT_GT(share(area, isRed), 0.02);
@@ -224,6 +249,65 @@ TEST_F(Map3DTest, putsTheHighwaysRectanglesAtTheirPlaces) {
     plan.deleteAllProcedures();
     frame();
     EXPECT_EQ(share(area, isMagenta), 0.0) << "a plan that was taken away isn't flown on";
+}
+
+TEST_F(Map3DTest, drawsAPlanThatChangesAllTheTime) {
+    makePanel("renderBank = 0\n");
+    ProcedureManager& plan = *context->getProcedureManager();
+    const auto isBlue = [](irr::video::SColor c) {
+        return c.getRed() < 20 && c.getGreen() > 70 && c.getGreen() < 160 && c.getBlue() > 180;
+    };
+    const irr::core::rect<int> scene(width / 4, 0, width, height); // without the words of the next point
+    bool wasShown = false;
+    for (int i = 0; i < 60; ++i) {
+        if (i % 7 == 6)
+            plan.deleteAllProcedures();
+        else
+            plan.addProcedure(std::make_unique<NorthProcedure>(true));
+        plan.calculateCourseList();
+        fly({1.5, 42.5 + 0.001 * i}, 900.0 + 5.0 * i, 0.0, 0.0, 0.0);
+        if (i % 3 == 0) {
+            for (int tries = 0; tries < 40 && plan.getActiveMesh()->getMeshBuffer(0)->getVertexCount() == 0; ++tries) {
+                Delay(20);
+                plan.Update(i % 2 == 0);
+            }
+            panel->OnProcedureNodesDelete();
+            frame();
+            panel->OnProcedureMeshExchanged();
+        }
+        frame();
+        if (i % 7 == 6) {
+            EXPECT_EQ(share(area, isBlue), 0.0) << i;
+        }
+        wasShown |= share(area, isBlue) > 0.0;
+        EXPECT_EQ(share(scene, isMagenta), 0.0) << "it leads over to the next: blue";
+    }
+    EXPECT_TRUE(wasShown);
+}
+
+TEST_F(Map3DTest, turnsTheBankScaleWithTheHorizon) {
+    makePanel();
+    const auto isWhite = [](irr::video::SColor c) {
+        return c.getRed() > 200 && c.getGreen() > 200 && c.getBlue() > 200;
+    };
+    const auto isWing = [](irr::video::SColor c) { return c.getRed() > 220 && c.getGreen() > 160 && c.getBlue() < 80; };
+    const GlassSymbols symbols(Lens(width, height), area);
+    const auto mark = [&](double degrees, double radii) {
+        const double angle = degrees * radiansPerDegree, radius = radii * symbols.getArcRadius();
+        const int x = static_cast<int>(width / 2.0 + radius * std::sin(angle));
+        const int y = static_cast<int>(height / 2.0 - radius * std::cos(angle));
+        return irr::core::rect<int>(x - 2, y - 2, x + 3, y + 3);
+    };
+    for (const double bank : {0.0, 25.0, -45.0}) {
+        poseOf(30.0, 0.0, bank);
+        frame();
+        EXPECT_GT(share(mark(-bank, 1.06), isWhite), 0.7) << "the triangle at zero, " << bank;
+        EXPECT_GT(share(mark(30.0 - bank, 1.0), isWhite), 0.1) << bank;
+        EXPECT_EQ(share(mark(15.0 - bank, 1.06), isWhite), 0.0) << "no mark there, " << bank;
+        EXPECT_GT(share(mark(0.0, 0.93), isWing), 0.7) << "the pointer stays, " << bank;
+        for (const double side : {-90.0, 90.0})
+            EXPECT_GT(share(mark(side, 0.4), isWing), 0.3) << "and so do the wings, " << bank;
+    }
 }
 
 TEST_F(Map3DTest, survivesWhatSensorsMaySend) {

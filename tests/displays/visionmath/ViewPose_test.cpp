@@ -156,11 +156,12 @@ TEST(GlassSymbols, PointToTheHorizonInUnusualAttitudesOnly) {
     };
     EXPECT_GT(lowest(chevrons(40.0, 0.0)), 340.0f) << "down to the horizon";
     EXPECT_LT(lowest(chevrons(-40.0, 0.0)), 380.0f) << "up to it";
-    ShapeMesh mesh;
-    const double nothing = std::nan("");
-    symbols.addBankScale(mesh, nothing, &nothing, 0xffffffff);
-    for (const ShapeMesh::Vertex& vertex : mesh.vertices)
-        EXPECT_TRUE(std::isfinite(vertex.place.X) && std::isfinite(vertex.place.Y));
+    EXPECT_EQ(symbols.getBankScale(std::nan("")).rotationDegrees, 0.0);
+    EXPECT_NEAR(symbols.getBankScale(370.0).rotationDegrees, 10.0, 1e-9);
+    EXPECT_EQ(symbols.getBall(std::nan("")).place.X, symbols.getBall(0.0).place.X);
+    const double middle = symbols.getBall(0.0).place.X, reach = symbols.getArcRadius() * 0.45;
+    EXPECT_NEAR(symbols.getBall(0.4).place.X - middle, reach * 0.5, 0.01 * reach) << "half way at 0.4";
+    EXPECT_LT(symbols.getBall(-1.0).place.X, middle - 0.8 * reach);
 }
 
 } // namespace

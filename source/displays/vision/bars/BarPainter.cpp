@@ -2,6 +2,7 @@
 
 #include "core/Context.h"
 #include "displays/drawing/Drawer2D.h"
+#include "gui/skin/Skin.h"
 
 #include <algorithm>
 #include <cmath>
@@ -31,6 +32,7 @@ BarPainter::BarPainter(Context* context)
 void BarPainter::paint(const BarCanvas& canvas) {
     for (const BarCanvas::Layer& layer : canvas.layers) {
         paintPictures(layer.pictures);
+        paintPanes(layer.panes);
         if (!layer.shapes.isEmpty())
             drawer_->draw(layer.shapes);
         drawer_->flush();
@@ -49,6 +51,13 @@ void BarPainter::paintPictures(const std::vector<BarPicture>& pictures) {
     }
     drawer_->setMirroring(false, false);
     drawer_->setColor(white);
+}
+
+void BarPainter::paintPanes(const std::vector<BarPane>& panes) {
+    static const char* const names[BarPane::kinds] = {"pfdRect", "pfdLabel", "pfdLabel2"};
+    for (const BarPane& each : panes)
+        if (const ButtonTexture* pane = context_->getSkin()->getButtonTexture(names[each.kind]))
+            pane->drawTinted(toPixels(each.place), nullptr, irr::video::SColor(each.argb));
 }
 
 void BarPainter::paintCross(const BarCanvas::Cross& cross, DialText& name) {

@@ -22,6 +22,7 @@ public:
 
 private:
     void paintPictures(const std::vector<BarPicture>& pictures);
+    void paintPanes(const std::vector<BarPane>& panes);
     void paintCross(const BarCanvas::Cross& cross, DialText& name);
 
     Context* context_;

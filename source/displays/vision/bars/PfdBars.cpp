@@ -17,6 +17,12 @@ irr::core::rect<int> PfdBars::getFreeRect(const irr::core::rect<int>& rect) cons
     return PfdLayout(rect, settings_).free;
 }
 
+irr::core::rect<int> PfdBars::getNextFixRect(const irr::core::rect<int>& rect) const {
+    const ShapeRect place = PfdLayout(rect, settings_).nextFix;
+    return {static_cast<int>(place.UpperLeftCorner.X), static_cast<int>(place.UpperLeftCorner.Y),
+            static_cast<int>(place.LowerRightCorner.X), static_cast<int>(place.LowerRightCorner.Y)};
+}
+
 void PfdBars::render(const irr::core::rect<int>& rect, const PfdReadings& readings) {
     const PfdLayout layout(rect, settings_);
     canvas_.clear();

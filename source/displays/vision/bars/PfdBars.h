@@ -29,6 +29,8 @@ public:
     const irr::core::rect<int>& getQnhRect() const { return qnhRect_; }
     /// What the bars leave of the panel to the scene's symbols (pitch ladder, chevrons, words).
     irr::core::rect<int> getFreeRect(const irr::core::rect<int>& rect) const;
+    /// Where the next point of the plan is told.
+    irr::core::rect<int> getNextFixRect(const irr::core::rect<int>& rect) const;
 
     void setTrueMagneticHeading(bool magnetic) { settings_.renderTrueMagHeading = magnetic; }
 

@@ -45,8 +45,7 @@ void drawQnh(BarPen& pen, const BarScene& scene) {
     const ShapeRect& place = scene.layout.qnh;
     const PfdReadings& readings = scene.readings;
     const double word = scene.layout.word;
-    pen.shade(BarCanvas::Ground, place, BarColor::label, BarColor::label);
-    pen.frame(BarCanvas::Ground, place, std::max(1.5, 0.5 * scene.layout.line), BarColor::grey);
+    pen.pane(BarCanvas::Ground, BarPane::Value, place);
     BarText text;
     text.height = word;
     text.most = place.getWidth() - word;

@@ -34,13 +34,24 @@ struct BarPicture {
     bool isMirrored = false; ///< Left for right.
 };
 
+/// A piece of the skin behind words, its edges as sharp at any size.
+struct BarPane {
+    enum Kind { Value, Title, Block };
+    static constexpr size_t kinds = 3;
+
+    Kind kind;
+    ShapeRect place;
+    uint32_t argb; ///< What its colours are multiplied with.
+};
+
 /// What the bars draw in one frame, as shapes, words and images in pixels of the screen; whoever draws it takes the
-/// layers one after the other, in each first the images, then the shapes, then the words. Keeps its memory when
-/// cleared.
+/// layers one after the other, in each first the images and panes, then the shapes, then the words. Keeps its memory
+/// when cleared.
 struct BarCanvas {
     enum Level { Ground, Scale, Box, Glass, levels };
     struct Layer {
         std::vector<BarPicture> pictures;
+        std::vector<BarPane> panes;
         ShapeMesh shapes;
         std::vector<BarText> texts;
     };
@@ -56,6 +67,7 @@ struct BarCanvas {
     void clear() {
         for (Layer& layer : layers) {
             layer.pictures.clear();
+            layer.panes.clear();
             layer.shapes.clear();
             layer.texts.clear();
         }
@@ -67,7 +79,8 @@ struct BarCanvas {
 namespace BarColor {
 constexpr uint32_t white = 0xfff4f7fb, grey = 0xffb9c3cf, doubtful = 0xffffe11f, failed = 0xfff01c28,
                    overspeed = 0xffff4a42;
-constexpr uint32_t simulated = 0xff4fc3ff, shade = 0x78060a10, box = 0xf005070a, label = 0xc805070a;
+constexpr uint32_t simulated = 0xff4fc3ff, shade = 0x78060a10, box = 0xf005070a;
+constexpr uint32_t pane = 0xd8ffffff;
 constexpr uint32_t bug = 0xffff40ff, track = 0xff40ff60, caution = 0xffffc31f;
 constexpr uint32_t normalArc = 0xff00ff00, cautionArc = 0xffffff00, flapArc = 0xffffffff, redArc = 0xffff0000,
                    blueLine = 0xff2f8cff;

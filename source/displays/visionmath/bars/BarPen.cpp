@@ -69,7 +69,7 @@ void BarPen::band(const ShapeRect& place, uint32_t argb) {
 }
 
 void BarPen::label(const ShapeRect& place, const ShortText& words, double height, uint32_t argb) {
-    shade(BarCanvas::Ground, place, BarColor::label, BarColor::label);
+    pane(BarCanvas::Ground, BarPane::Title, place);
     BarText text;
     text.text = words;
     text.place = ShapePoint(middleX(place), middleY(place));

@@ -20,6 +20,9 @@ public:
     void polygon(BarCanvas::Level level, std::initializer_list<ShapePoint> corners, uint32_t argb);
     void picture(BarPicture::Kind kind, const ShapeRect& place, uint32_t argb, bool isMirrored = false,
                  BarCanvas::Level level = BarCanvas::Box);
+    void pane(BarCanvas::Level level, BarPane::Kind kind, const ShapeRect& place, uint32_t argb = BarColor::pane) {
+        canvas_.layers[level].panes.push_back({kind, place, argb});
+    }
     void text(BarCanvas::Level level, const BarText& text) { canvas_.layers[level].texts.push_back(text); }
     void cross(const ShapeRect& place, const wchar_t* name) { canvas_.crosses.push_back({place, name}); }
 

@@ -44,7 +44,7 @@ void drawNextFix(BarPen& pen, const BarScene& scene) {
     const ShapeRect& place = scene.layout.nextFix;
     const double line = place.getHeight() / 3.0;
     const bool isShown = isValueShown(fix.flag);
-    pen.shade(BarCanvas::Ground, place, BarColor::label, BarColor::label);
+    pen.pane(BarCanvas::Ground, BarPane::Block, place, withAlpha(BarColor::box, 0.8));
     BarText text;
     text.height = 1.15 * scene.layout.word;
     text.most = place.getWidth() - scene.layout.word;

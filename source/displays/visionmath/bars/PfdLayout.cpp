@@ -21,9 +21,10 @@ PfdLayout::PfdLayout(const irr::core::rect<int>& panel, const VisionSettings& se
     barWidth = settings.barSize * panel.getWidth();
     // A low and wide panel has no room for digits that fit its bars.
     const double unit = std::min(barWidth, 0.3 * height);
-    tick = std::max(12.0, 0.125 * unit);
-    value = std::max(10.0, 0.172 * unit);
-    word = std::max(9.0, 0.085 * unit);
+    // What is smaller can't be read at arm's length; words that are too long for their place are made narrower.
+    tick = std::max(14.0, 0.125 * unit);
+    value = std::max(15.0, 0.172 * unit);
+    word = std::max(12.0, 0.085 * unit);
     line = std::max(2.0, whole(std::min(0.003 * height, 0.016 * unit)));
     shortMark = std::min(0.025 * height, 0.09 * barWidth);
     placeTapes(panel, settings);

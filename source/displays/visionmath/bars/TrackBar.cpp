@@ -82,7 +82,7 @@ public:
     }
     void drawBox() {
         const ShapeRect& head = layout_.trackHead;
-        const double middle = middleX(head), half = 1.7 * layout_.tick, bottom = head.LowerRightCorner.Y;
+        const double middle = middleX(head), half = 1.9 * layout_.tick, bottom = head.LowerRightCorner.Y;
         const ShapeRect box(middle - half, head.UpperLeftCorner.Y, middle + half, bottom - 0.3 * layout_.tick);
         const double notch = 0.45 * layout_.tick;
         pen_.polygon(BarCanvas::Scale,
@@ -90,8 +90,7 @@ public:
                       {middle + notch, box.LowerRightCorner.Y},
                       {middle, bottom + 0.25 * layout_.tick}},
                      ink_);
-        pen_.rect(BarCanvas::Box, box, BarColor::box);
-        pen_.frame(BarCanvas::Box, box, std::max(1.5, 0.75 * layout_.line), ink_);
+        pen_.pane(BarCanvas::Box, BarPane::Value, box, ink_);
         BarText text;
         text.text = formatDirection(directions_.heading).append(L"\u00B0");
         text.height = 1.08 * layout_.tick;
@@ -125,7 +124,7 @@ private:
 void drawWords(BarPen& pen, const BarScene& scene, const GlassDirections& directions) {
     const PfdLayout& layout = scene.layout;
     const ShapeRect& head = layout.trackHead;
-    const double margin = 0.4 * layout.word, room = middleX(head) - 1.9 * layout.tick - head.UpperLeftCorner.X;
+    const double margin = 0.4 * layout.word, room = middleX(head) - 2.1 * layout.tick - head.UpperLeftCorner.X;
     BarText text;
     text.height = 0.95 * layout.word;
     text.most = room - margin;
@@ -157,7 +156,7 @@ void drawTrackBar(BarPen& pen, const BarScene& scene) {
     const DialFlag flag = readings.headingDegrees.flag;
     const GlassDirections directions = chooseDirections(scene);
     pen.band(scene.layout.track, scene.settings.barColor);
-    pen.shade(BarCanvas::Ground, scene.layout.trackHead, BarColor::label, BarColor::label);
+    pen.pane(BarCanvas::Ground, BarPane::Title, scene.layout.trackHead);
     if (!isValueShown(flag)) {
         ShapeRect both = scene.layout.trackHead;
         both.addInternalPoint(scene.layout.track.LowerRightCorner);
