@@ -6,6 +6,7 @@ Needs what the window tests need. Run it in a network of its own when another co
     unshare -rn bash -c 'ip link set lo up; tools/media/manual.py build/release'
 """
 import os
+import subprocess
 import sys
 import time
 
@@ -156,6 +157,32 @@ def scene_plan():
         plan.press(WHERE, 'bstart', plan.high)
         time.sleep(1)
         keep(cockpit.look(), 'simulator')
+
+
+def scene_vision():
+    """The synthetic view with a plan over the fictional mountains."""
+    build = os.path.abspath(sys.argv[1])
+
+    def fill(home):
+        prepare(build)(home)
+        terrain = os.path.join(home, '.Skyvane/Terrain')
+        subprocess.run([os.path.join(ROOT, 'tools/demo/build-region.sh'), build, os.path.join(home, 'region'), '1', terrain],
+                       check=True, stdout=subprocess.DEVNULL)
+        subprocess.run([os.path.join(build, 'tools/chartmaker/chartmaker'), 'levels', terrain], check=True,
+                       stdout=subprocess.DEVNULL)
+    page = [line for line in DEMO.split('[P0]')[0].split('\n') if not line.startswith('PanelCount')]
+    config = ('PanelCount = 1\n' + '\n'.join(page) + '\n[P0]\nFactoryIndex = 3\nPage = 0\nPortrait = 0\nViewPortSX = 0\n'
+              'ViewPortSY = 0\nViewPortTX = 1\nViewPortTY = 1\npfdColor = 128,128,128,64\n')
+    with Cockpit(build, config, SIZE, prepare=fill) as cockpit:
+        plan = Plan(cockpit)
+        state = 'pitch=2,roll=-8,heading=12,altitude_ft=3020,ias_kt=98,vs_fpm=150,latitude=%f,longitude=%f' % START
+        cockpit.feed('--hold', '--state', state)
+        time.sleep(4)
+        plan.load(0, 5)
+        time.sleep(1)
+        plan.press(PLAN, 'bclose', plan.low)
+        time.sleep(8)
+        keep(cockpit.look()[:panel_area(SIZE)[1]], 'vision')
 
 
 def scene_glide():

@@ -4,6 +4,7 @@
 #include "displays/vision/VisionRig.h"
 #include "displays/visionmath/GlassSymbols.h"
 #include "displays/visionmath/HorizonLine.h"
+#include "displays/visionmath/bars/PfdLayout.h"
 #include "procedures/ProcedureManager.h"
 #include "sensors/records/Traffic_Data.h"
 #include "support/AllocationCounter.h"
@@ -132,6 +133,16 @@ TEST_F(Map3DTest, neitherHidesMissingTerrainNorShowsItAsSea) {
     frame();
     EXPECT_GT(share(box, isAmber), 0.005);
     EXPECT_TRUE(isEarth(gl.pixel(30, height - 20)));
+    // Narrow panels too keep the words off the corner where the next point of the plan is told.
+    for (const int narrow : {130, 240}) {
+        area = {0, 0, narrow, height};
+        frame();
+        const ShapeRect corner = PfdLayout(area, VisionSettings()).nextFix;
+        const auto right = static_cast<int>(corner.LowerRightCorner.X),
+                   top = static_cast<int>(corner.UpperLeftCorner.Y);
+        EXPECT_EQ(share({0, top, right, height}, isAmber), 0.0) << narrow;
+        EXPECT_GT(share({right, height * 3 / 4, narrow, height}, isAmber), 0.002) << narrow;
+    }
 }
 
 TEST_F(Map3DTest, takesNoFarSampleOfACoarseTileForTheGround) {
