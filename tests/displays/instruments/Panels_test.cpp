@@ -4,6 +4,7 @@
 #include "displays/IPanelFactory.h"
 #include "displays/PanelManager.h"
 #include "displays/drawing/Drawer2D.h"
+#include "procedures/aircraft/AircraftManager.h"
 #include "sensors/SensorFakes.h"
 #include "sensors/records/Acceleration_Data.h"
 #include "sensors/records/Altitude_Data.h"
@@ -27,7 +28,17 @@ namespace {
 
 using irr::core::rect;
 
-enum Place { Turn = 1, Field = 6, Lamp = 7, Slip = 10, Load = 11, Battery = 12, Glider = 14, GlideInfo = 17 };
+enum Place {
+    Turn = 1,
+    Field = 6,
+    Lamp = 7,
+    Slip = 10,
+    Load = 11,
+    Battery = 12,
+    CheckLists = 13,
+    Glider = 14,
+    GlideInfo = 17
+};
 
 /// Panels as their factories make them, in the real context, fed by one sensor that a test writes to.
 class PanelsTest : public testing::Test {
@@ -216,6 +227,67 @@ TEST_F(PanelsTest, aSteadyFrameAllocatesNothing) {
     drawPanels();
     EXPECT_EQ(counter.count(), 0u);
     gl.end();
+}
+
+/// The checklist panel shows elements of the GUI; lines of every kind.
+class CheckListPanelTest : public PanelsTest {
+protected:
+    void show(const std::list<std::string>& lines, const rect<int>& area) {
+        context->getAircraftManager()->getCurrentAircraft().checklists = {{"Start", lines}};
+        context->getAircraftManager()->saveAircrafts();
+        if (panels.empty())
+            add(CheckLists, area);
+        areas[0] = area;
+        drawAll();
+    }
+    size_t allocationsOfAFrame() {
+        drawAll();
+        gl.begin();
+        const AllocationCounter counter;
+        drawPanels();
+        gl.device()->getGUIEnvironment()->drawAll();
+        const size_t count = counter.count();
+        gl.end();
+        return count;
+    }
+    void drawAll() {
+        gl.begin(irr::video::SColor(0xff101418));
+        drawPanels();
+        gl.device()->getGUIEnvironment()->drawAll();
+        context->getDrawer()->flush();
+        gl.end();
+    }
+};
+
+TEST_F(CheckListPanelTest, linesOfAnyLengthAreShownAndASteadyFrameAllocatesNothing) {
+    const std::string longWord(100000, 'x'), broken = "Z\xc3\xbcndung \xc3\x28 \xff\xfe an";
+    std::list<std::string> lines{"", "Fuel on", longWord, broken};
+    for (int i = 0; i < 5000; ++i)
+        lines.push_back("Item " + std::to_string(i));
+    // The engine's buttons and boxes copy their texts in each frame; the items add nothing to that.
+    show({"Fuel on"}, {0, 0, width, height});
+    const size_t engines = allocationsOfAFrame();
+    show(lines, {0, 0, width, height});
+    gl.savePicture("checklist.png");
+    EXPECT_EQ(allocationsOfAFrame(), engines);
+}
+
+TEST_F(CheckListPanelTest, followsWhatIsChangedElsewhere) {
+    AircraftManager& aircrafts = *context->getAircraftManager();
+    show({"Fuel on"}, {0, 0, width, height});
+    const int other = aircrafts.addAircraft(Aircraft());
+    aircrafts.getAircraft(other)->checklists = {{"Glide", {"Wheel down", "Flaps"}}};
+    aircrafts.saveAircrafts();
+    drawAll();
+    aircrafts.removeAircraft(other);
+    aircrafts.getCurrentAircraft().checklists.clear();
+    aircrafts.saveAircrafts();
+    drawAll();
+    for (const rect<int>& area : {rect<int>(0, 0, 0, 0), rect<int>(5, 5, 6, 6), rect<int>(0, 0, 3, 300),
+                                  rect<int>(-5000, -5000, 90000, -4000), rect<int>(0, 0, 480, 2)})
+        show({"Fuel on", "Brakes"}, area);
+    panels[0]->OnHideGUI();
+    panels[0]->OnPageChange();
 }
 
 TEST_F(PanelsTest, absurdRectanglesAreHarmless) {
