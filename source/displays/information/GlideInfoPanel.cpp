@@ -74,7 +74,7 @@ void GlideInfoPanel::render(irr::core::rect<int> rect) {
 void GlideInfoPanel::drawCrosses(const GlideInfoReadings& readings) {
     const auto cross = [this](const GlideNumber& number, const Rect& place) {
         if (number.flag == DialFlag::Failed)
-            flagView_.drawCross(place);
+            flagView_.drawCross(DialFlagView::crossPlace(place));
     };
     cross(readings.ratio, part(rect_, 0, 1, 1, 2));
     cross(readings.altitude, part(rect_, 1, 1, 3, 2));
@@ -86,7 +86,12 @@ void GlideInfoPanel::drawLabels(FlexibleFont* font) {
     const GlideNumber set = {inverseGlideRatio() >= 1.0, inverseGlideRatio(), DialFlag::Good};
     const ShortText label =
         ShortText(ratioLabel).append(isTall() ? L"\n(" : L" (").append(formatGlideRatio(set).view()).append(L")");
-    ratioLabel_.draw(font, label.c_str(), nullptr, part(rect_, 0, 0, 3, 1), color);
+    // Not larger than the values below.
+    Rect place = part(rect_, 0, 0, 3, 1);
+    const int margin = place.getHeight() / 8;
+    place.UpperLeftCorner.Y += margin;
+    place.LowerRightCorner.Y -= margin;
+    ratioLabel_.draw(font, label.c_str(), nullptr, place, color);
     averageLabel_.draw(font, averageLabel, nullptr, part(rect_, 0, 2, 1, 3), color);
 }
 

@@ -137,7 +137,7 @@ void GliderPanel::drawMark(const Rect& place, DialFlag flag) {
     const int width = std::max(2, std::min(rect_.getWidth(), rect_.getHeight()) / 150);
     context_->getDrawer()->drawOutline(place, DialFlagView::flagColor(flag), width);
     if (flag == DialFlag::Failed)
-        flagView_.drawCross(inside(place));
+        flagView_.drawCross(DialFlagView::crossPlace(inside(place)));
 }
 
 void GliderPanel::drawMarks(const GliderReadings& readings) {

@@ -1,6 +1,7 @@
 #include "displays/instruments/DialFlagView.h"
 
 #include "core/engine/MipmappedTexture.h"
+#include "core/geometry/Rectangles.h"
 #include "displays/drawing/Drawer2D.h"
 #include "displays/gauges/FlagMasks.h"
 
@@ -78,6 +79,11 @@ void DialFlagView::drawCross(const irr::core::rect<int>& rect) {
     drawer_->Draw(cross_.get(), rect);
     drawer_->setTextureCoordinates(nullptr);
     drawer_->setColor(white);
+}
+
+irr::core::rect<int> DialFlagView::crossPlace(const irr::core::rect<int>& rect) {
+    constexpr float widest = 2.2f;
+    return rect.getWidth() > widest * rect.getHeight() ? makeXic(rect, widest) : rect;
 }
 
 void DialFlagView::drawWords(DialFlag flag, const irr::core::rect<int>& square, FlexibleFont* font,

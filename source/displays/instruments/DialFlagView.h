@@ -23,6 +23,8 @@ public:
     void drawShapes(DialFlag flag, const DialFrame& frame);
     /// A red cross over any rectangle of the viewport.
     void drawCross(const irr::core::rect<int>& rect);
+    /// The middle of a wide rectangle: a cross over all of it would lie down.
+    static irr::core::rect<int> crossPlace(const irr::core::rect<int>& rect);
     /// The words, in screen coordinates. `name` is the failed quantity's.
     void drawWords(DialFlag flag, const irr::core::rect<int>& square, FlexibleFont* font, const wchar_t* name);
 

@@ -1,7 +1,6 @@
 #include "displays/instruments/OneSegmentPanel.h"
 
 #include "core/Context.h"
-#include "core/geometry/Rectangles.h"
 #include "displays/PanelManager.h"
 #include "displays/drawing/Drawer2D.h"
 #include "displays/gauges/SegmentFormat.h"
@@ -28,13 +27,6 @@ irr::core::rect<int> textBox(const irr::core::rect<int>& rect) {
     box.UpperLeftCorner.X += SegmentBackground::rimOf(rect);
     box.LowerRightCorner.X -= SegmentBackground::rimOf(rect);
     return box;
-}
-
-/// Not so wide that the arms lie down.
-irr::core::rect<int> crossBox(const irr::core::rect<int>& rect) {
-    constexpr float widest = 2.2f;
-    const irr::core::rect<int> inside = shrunk(rect, 2 * SegmentBackground::rimOf(rect));
-    return inside.getWidth() > widest * inside.getHeight() ? makeXic(inside, widest) : inside;
 }
 
 } // namespace
@@ -87,7 +79,7 @@ void OneSegmentPanel::render(irr::core::rect<int> rect) {
     const SegmentReading reading = reader_.read(gatherSources());
     background_.draw(rect, color_, reading.flag);
     if (reading.flag == DialFlag::Failed)
-        flagView_.drawCross(crossBox(rect));
+        flagView_.drawCross(DialFlagView::crossPlace(shrunk(rect, 2 * SegmentBackground::rimOf(rect))));
     context_->getDrawer()->flush();
     label_.draw(font, segmentLabel(type_, context_->isPortrait()), nullptr, upperHalf(rect), labelColor(color_));
     const bool known = !(reading.text == ShortText(notAvailable));
