@@ -12,7 +12,7 @@ from islands import install
 from navigator import distance
 from run_tests import thorough
 from test_dials import DEMO, hold
-from test_flightplan import ELEVATION, FIELD, FOOT, KNOT, MILE, PLAN, Plan, procedure
+from test_flightplan import ELEVATION, FIELD, FOOT, KNOT, PLAN, SANDA, Plan, procedure
 
 SIZE = (1280, 720)
 PLACE = (42.62, -28.26)
@@ -34,13 +34,13 @@ def pages(size, panels):
 
 
 def prepare(build):
-    """A home with the islands and a plan that leads to an airport."""
+    """A home with the islands and a plan that leads to a fix, then to an airport."""
     charts = install(build)
 
     def fill(home):
         charts(home)
         with open(os.path.join(home, 'data', 'fpl.ini'), 'w') as plans:
-            plans.write('[Field]\ncnt = 1\n' + procedure(0, 'Direct', FIELD, 7))
+            plans.write('[Field]\ncnt = 2\n' + procedure(0, 'Direct', SANDA, 3) + procedure(1, 'Direct', FIELD, 7))
     return fill
 
 
@@ -52,6 +52,10 @@ def table_ink(pixels, place):
 
 class Glider(Plan):
     """The information on the first page, the table on the second."""
+
+    def load_plan(self):
+        self.load(0, 2)
+        self.press(PLAN, 'bclose', self.low)
 
     def __init__(self, cockpit):
         super().__init__(cockpit)
@@ -141,11 +145,12 @@ def test_a_glide_is_reckoned_to_the_airport(build):
         glider = Glider(cockpit)
         glider.next_page()
         glider.learn()
-        assert all(are_no_numbers(column) for column in glider.table()), 'no destination'
         feeder = hold(cockpit, 'flightgear', **GLIDE)
-        time.sleep(1)
-        glider.load(0, 1)
-        glider.press(PLAN, 'bclose', glider.low)
+        cockpit.wait(lambda: glider.cut_off(1) < 0.002, 5, 'the crosses to go')
+        assert all(are_no_numbers(column) for column in glider.table()), 'no destination'
+        glider.load_plan()
+        assert all(are_no_numbers(column) for column in glider.table()), 'a fix has no elevation'
+        glider.next_procedure()
         check_table(glider)
         glider.keep('glider')
         end(feeder)
@@ -167,8 +172,7 @@ def test_the_ratio_to_reckon_with_is_entered(build):
             glider = Glider(cockpit)
             hold(cockpit, 'flightgear', **GLIDE)
             time.sleep(1)
-            glider.load(0, 1)
-            glider.press(PLAN, 'bclose', glider.low)
+            glider.load_plan()
             glider.keep('glideinfo')
             own = label_ink(glider)
             ask_for(glider, '40')

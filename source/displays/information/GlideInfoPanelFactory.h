@@ -9,7 +9,7 @@ namespace skyvane {
 class GlideInfoPanelFactory : public DialFactory {
 public:
     explicit GlideInfoPanelFactory(Context* context)
-        : DialFactory(context, "GlideInfoPanel", "", glideInfoPanelOptions) {}
+        : DialFactory(context, "GlideInfoPanel", "", glideInfoPanelOptions, "GlideInfo.hti") {}
     void loadSetupFromIni(IniFile* ini, std::string section) override;
     std::unique_ptr<IPanel> Create() override;
     /// The panel with its labels and figures that nobody takes for values.

@@ -9,7 +9,7 @@ namespace skyvane {
 class GliderPanelFactory : public DialFactory {
 public:
     explicit GliderPanelFactory(Context* context)
-        : DialFactory(context, "GliderPanel", "media/glider_preview.png", gliderPanelOptions) {}
+        : DialFactory(context, "GliderPanel", "media/glider_preview.png", gliderPanelOptions, "Glider.hti") {}
     void loadSetupFromIni(IniFile* ini, std::string section) override;
     std::unique_ptr<IPanel> Create() override { return make<GliderPanel>(style_); }
 

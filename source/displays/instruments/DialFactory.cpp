@@ -14,7 +14,7 @@ bool DialFactory::askOptions(IniFile& ini, const std::string& section) {
     const std::wstring schema = decodeUtf8(options_);
     const std::vector<EditorRow> rows = parseEditorSchema(schema);
     IniFile options = readPanelOptions(rows, ini, section);
-    IniEditor editor(context_, name_, schema, nullptr);
+    IniEditor editor(context_, name_, schema, helpPage_);
     if (!editor.run(&options))
         return false;
     writePanelOptions(rows, options, ini, section);

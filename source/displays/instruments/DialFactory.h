@@ -22,9 +22,10 @@ public:
     void renderPreview(irr::core::rect<int> rect) override;
 
 protected:
-    /// `options` is a schema of an IniEditor; null without options.
-    DialFactory(Context* context, const char* name, const char* previewPath, const char* options = nullptr)
-        : context_(context), name_(name), previewPath_(previewPath), options_(options) {}
+    /// `options` is a schema of an IniEditor, `helpPage` the page of the manual that tells of them; null without.
+    DialFactory(Context* context, const char* name, const char* previewPath, const char* options = nullptr,
+                const char* helpPage = nullptr)
+        : context_(context), name_(name), previewPath_(previewPath), options_(options), helpPage_(helpPage) {}
 
     template <class Panel, class... Settings>
     std::unique_ptr<IPanel> make(const Settings&... settings) {
@@ -44,6 +45,7 @@ private:
     const char* name_;
     const char* previewPath_;
     const char* options_;
+    const char* helpPage_;
     bool previewLoaded_ = false;
     PanelTexture preview_;
 };
