@@ -2,6 +2,8 @@
 import os
 import random
 import shutil
+import subprocess
+import tempfile
 import time
 
 import numpy
@@ -184,3 +186,78 @@ def test_home_that_cannot_be_written(build):
         open(os.path.join(home, 'data'), 'w').write('a file where the folder should be')
     said = flies(build, DEMO, seal)
     assert 'data could not be created' in said or 'could not' in said
+
+
+def test_settings_of_an_older_version_are_kept_aside_and_told(build):
+    old = DEMO.replace('minor = 9', 'minor = 7').replace('units = ', 'unknownToday = 1\nformerUnits = ')
+    with Cockpit(build, old) as cockpit:
+        cockpit.wait_for_window()
+        assert 'settings of version 2.7 don\'t fit' in cockpit.output(), cockpit.output()
+        with open(cockpit.path('data/config.ini.old')) as kept:
+            assert kept.read() == old
+        assert cockpit.close() == 0
+        assert 'minor = 9' in open(cockpit.path('data/config.ini')).read()
+    # Of this version, but with keys that are missing or unknown: what isn't there has its default.
+    sparse = '\n'.join(line for line in DEMO.split('\n') if line.split(' = ')[0] not in
+                       ('font', 'units', 'drawFPS', 'terrainDetailLevel', 'D4', 'showPopups', 'ForwarderCount'))
+    flies(build, 'unknownToday = 1\n' + sparse)
+
+
+def in_a_small_disk(build, fill, words):
+    """Starts in a home on a file system of its own, which `fill` has made useless; it must say the words, and fly."""
+    def prepare(home):
+        os.rename(home, home + '.kept')
+        os.mkdir(home)
+        subprocess.run(['mount', '-t', 'tmpfs', '-o', 'size=1m', 'none', home], check=True)
+        subprocess.run(['cp', '-a', home + '.kept/.', home], check=True)
+        fill(home)
+    cockpit = Cockpit(build, DEMO, prepare=prepare)
+    try:
+        with cockpit:
+            cockpit.wait_for_window()
+            time.sleep(1.5)
+            cockpit.save(cockpit.look(), 'small-disk')
+            said = [line for line in cockpit.output().split('\n') if words in line]
+            assert len(said) == 1, cockpit.output()[-900:]
+            cockpit.key('Next')
+            assert cockpit.close() == 0, cockpit.output()[-600:]
+    finally:
+        subprocess.run(['umount', cockpit.home], check=True)
+
+
+def test_a_home_where_nothing_can_be_saved_is_told(build):
+    if subprocess.run(['unshare', '--mount', 'true'], stderr=subprocess.DEVNULL).returncode != 0:
+        print('skipped: a disk that is full, since nothing can be mounted here')
+        return
+
+    def seal(home):
+        subprocess.run(['mount', '-o', 'remount,ro', home], check=True)
+
+    def fill(home):
+        filler = os.open(os.path.join(home, 'filler'), os.O_WRONLY | os.O_CREAT)
+        try:
+            while True:
+                os.write(filler, b'x' * 4096)
+        except OSError:
+            os.close(filler)
+    in_a_small_disk(build, seal, 'make it writable')
+    in_a_small_disk(build, fill, 'The disk is full')
+
+
+def test_a_display_that_is_not_there_is_told(build):
+    with tempfile.TemporaryDirectory() as folder:
+        subprocess.run([os.path.join(ROOT, 'tools/demo/prepare-home.sh'), build, folder], check=True)
+        for name in (None, ':64999'):
+            environment = dict(os.environ, DISPLAY=name or '')
+            run = subprocess.run([os.path.join(folder, 'skyvane')], env=environment, stdout=subprocess.PIPE,
+                                 stderr=subprocess.PIPE, text=True, timeout=20)
+            assert run.returncode == 1 and run.stderr.startswith('Skyvane: no display'), (run.returncode, run.stderr)
+            assert run.stderr.count('\n') == 1, run.stderr
+
+
+def test_run_tells_wrong_arguments(build):
+    """Before it builds anything."""
+    for arguments in (['bogus'], ['800'], ['0', '0'], ['800', 'wide'], ['1', '2', '3'], ['flightgear', 'x']):
+        run = subprocess.run([os.path.join(ROOT, 'run'), *arguments], stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                             text=True, timeout=20)
+        assert run.returncode == 2 and run.stderr.count('\n') == 1 and './run [' in run.stderr, (arguments, run.stderr)

@@ -4,6 +4,7 @@
 #include "core/files/Paths.h"
 #include "core/files/Version.h"
 #include "core/ini/IniFile.h"
+#include "core/text/Numbers.h"
 
 #include <cstdio>
 
@@ -41,12 +42,26 @@ bool HomeFolder::createDocuments(const StandardDocuments& documents) const {
     return (fileExist(aircrafts) || writeStringToFile(aircrafts, documents.aircrafts)) && done;
 }
 
+std::string HomeFolder::findOtherConfigVersion() const {
+    IniFile config(home_ + "data/config.ini");
+    const auto number = [&config](const char* key) {
+        return config.isAvailable("", key) ? toUnsigned(config.get("", key)) : 0u;
+    };
+    const unsigned major = number("major"), minor = number("minor");
+    if (major == 0 || (major == ConfigMajor && minor == ConfigMinor))
+        return {};
+    return std::to_string(major) + "." + std::to_string(minor);
+}
+
 bool HomeFolder::writeStandardConfig(const char* standardConfig) const {
+    const std::string path = home_ + "data/config.ini";
+    if (!findOtherConfigVersion().empty())
+        std::rename(path.c_str(), (path + ".old").c_str());
     IniFile config;
     config.setFromString(standardConfig);
     config.set("", "major", std::to_string(ConfigMajor));
     config.set("", "minor", std::to_string(ConfigMinor));
-    return config.Save(home_ + "data/config.ini");
+    return config.Save(path);
 }
 
 bool HomeFolder::hasDataLocation() const {

@@ -38,7 +38,10 @@ public:
     /// Folders and documents of a first start; aircrafts.ini only when there is none. False when something is missing
     /// afterwards.
     bool createDocuments(const StandardDocuments& documents) const;
-    /// The standard configuration, marked with the current version, as data/config.ini.
+    /// "2.7" for a data/config.ini of that version; empty for one of this version, and where it has no version.
+    std::string findOtherConfigVersion() const;
+    /// The standard configuration, marked with the current version, as data/config.ini. One of another version is kept
+    /// beside it, as data/config.ini.old.
     bool writeStandardConfig(const char* standardConfig) const;
 
     bool hasDataLocation() const;

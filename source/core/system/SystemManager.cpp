@@ -3,6 +3,7 @@
 #include "core/Context.h"
 #include "core/engine/ShowState.h"
 #include "core/files/Paths.h"
+#include "core/files/SavingTrouble.h"
 #include "core/files/StandardDocuments.h"
 #include "core/log/Logger.h"
 #include "core/system/MemoryTest.h"
@@ -43,6 +44,7 @@ SystemManager::SystemManager(Context* context, Drawer2D* drawer, const char* arg
     skin_->loadMedia(drawer_, getAbsolutePath("media/"));
     device_->getGUIEnvironment()->setSkin(skin_.get());
     std::printf("apphome: %s ss: %s\n", appHome_.c_str(), home_.getMarkerPath().c_str());
+    noteTroubleOfSettings();
     const bool isFirstStart = home_.isFirstStart();
     if (isFirstStart)
         createDataOfFirstStart();
@@ -73,6 +75,17 @@ void SystemManager::testMemory() {
         Delay(100);
     }
     std::exit(EXIT_SUCCESS);
+}
+
+void SystemManager::noteTroubleOfSettings() {
+    const std::string data = appHome_ + "data/";
+    const std::string trouble = savingTrouble(data, lookAtFolder(data));
+    if (!trouble.empty())
+        noteTrouble(trouble);
+    const std::string former = home_.findOtherConfigVersion();
+    if (!former.empty())
+        noteTrouble("Set up sensors and panels again: settings of version " + former +
+                    " don't fit. They are kept in data/config.ini.old.");
 }
 
 void SystemManager::createDataOfFirstStart() {
@@ -125,7 +138,7 @@ void SystemManager::writeMarker() {
 }
 
 void SystemManager::openDataFolders() {
-    if (!paths_.makeFolders())
+    if (!paths_.makeFolders() && startTrouble_.empty())
         noteTrouble("Not all folders for charts, terrain, images and logs could be made below " + paths_.data + ".");
 }
 

@@ -62,6 +62,8 @@ public:
 
 private:
     void testMemory();
+    /// A home where nothing can be saved, settings of another version.
+    void noteTroubleOfSettings();
     void createDataOfFirstStart();
     /// The folder of the environment variable SKYVANE_DATA_ROOT without asking, for installers and tests; otherwise the
     /// dialog.

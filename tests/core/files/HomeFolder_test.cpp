@@ -83,6 +83,21 @@ TEST_F(HomeFolderTest, ANewVersionRenewsDocumentsButNotAircraftNorTheDataLocatio
     EXPECT_EQ("/srv/.Skyvane/", home.readDataPaths().log);
 }
 
+TEST_F(HomeFolderTest, SettingsOfAnotherVersionAreKeptBesideTheStandardOnes) {
+    const HomeFolder home(path);
+    EXPECT_EQ("", home.findOtherConfigVersion());
+    home.createDocuments(documents);
+    EXPECT_EQ("", home.findOtherConfigVersion());
+    EXPECT_TRUE(home.writeStandardConfig(documents.config));
+    EXPECT_FALSE(fs::exists(path + "data/config.ini.old")) << "of this version";
+    write("data/config.ini", "mine = 1\nmajor = 2\nminor = 7\n");
+    EXPECT_EQ("2.7", home.findOtherConfigVersion());
+    EXPECT_TRUE(home.writeStandardConfig(documents.config));
+    EXPECT_EQ("mine = 1\nmajor = 2\nminor = 7\n", read("data/config.ini.old"));
+    write("data/config.ini", "no version");
+    EXPECT_EQ("", home.findOtherConfigVersion());
+}
+
 TEST_F(HomeFolderTest, WhatCannotBeMadeIsToldAndTheRestIsDone) {
     write("data", "a file where the folder should be");
     const HomeFolder home(path);
