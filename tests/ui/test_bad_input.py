@@ -223,6 +223,7 @@ def in_a_small_disk(build, fill, words):
             assert cockpit.close() == 0, cockpit.output()[-600:]
     finally:
         subprocess.run(['umount', cockpit.home], check=True)
+        shutil.rmtree(cockpit.folder, ignore_errors=True)
 
 
 def test_a_home_where_nothing_can_be_saved_is_told(build):
