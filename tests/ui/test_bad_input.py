@@ -2,6 +2,7 @@
 import os
 import random
 import shutil
+import socket
 import subprocess
 import tempfile
 import time
@@ -262,3 +263,12 @@ def test_run_tells_wrong_arguments(build):
         run = subprocess.run([os.path.join(ROOT, 'run'), *arguments], stdout=subprocess.PIPE, stderr=subprocess.PIPE,
                              text=True, timeout=20)
         assert run.returncode == 2 and run.stderr.count('\n') == 1 and './run [' in run.stderr, (arguments, run.stderr)
+
+
+def test_a_missing_network_is_told_to_who_listens(build):
+    simulator = 'FactoryIndex = 4\nFactoryName = FlightGear\\ Flight\\ Simulator'
+    assert simulator in DEMO
+    said = flies(build, DEMO.replace(simulator, 'FactoryIndex = 6\nFactoryName = GDL90\nport = 4000\nflavor = Generic'))
+    if [name for _, name in socket.if_nameindex()] == ['lo']:  # as in a network of its own
+        assert 'No network is up: join' in said, said
+    assert 'No network' not in flies(build, DEMO), 'a simulator runs on the same computer'

@@ -6,6 +6,7 @@
 #include "sensors/SensorManager.h"
 #include "sensors/gdl90/GDL90SensorFactory.h"
 #include "sensors/gdl90/messages/UATUplinkGDL90Message.h"
+#include "sensors/transport/tellMissingNetwork.h"
 
 #include <utility>
 
@@ -29,6 +30,7 @@ GDL90Sensor::Link::Link(int port) : socket(DatagramBytes, QueueBytes, true, port
 GDL90Sensor::GDL90Sensor(GDL90SensorFactory* factory, SensorManager* sensors, int port, GDL90Flavor flavor)
     : factory_(factory), sensors_(sensors), flavor_(flavor), lastDatagram_(Secs() - SilentSeconds),
       merge_(records_, flavor) {
+    tellMissingNetwork();
     links_.push_back(std::make_unique<Link>(port));
     if (flavor_ == GDL90Flavor::Talos)
         links_.push_back(std::make_unique<Link>(SecondPort));

@@ -3,6 +3,7 @@
 #include "core/log/Logger.h"
 #include "core/time/Time.h"
 #include "sensors/SensorManager.h"
+#include "sensors/transport/tellMissingNetwork.h"
 
 #include <string>
 #include <utility>
@@ -24,6 +25,7 @@ UDPSensor::UDPSensor(SensorManager* sensors, const UDPSensorOptions& options, st
 }
 
 void UDPSensor::setupSocket() {
+    tellMissingNetwork();
     logText("Creating server socket...\n");
     auto socket = options_.ipv6 ? CreateIpv6UDPSocket(true) : CreateIpv4UDPSocket(true);
     if (!socket) {
