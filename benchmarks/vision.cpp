@@ -39,7 +39,8 @@ const ChartPosition start(331.4, 42.4);
 constexpr int altitudeMetres = 2600;
 constexpr int headingDegrees = 30;
 
-/// Mountains for the whole earth and, finer, around the start, in the home that the program is going to have.
+/// Mountains for the whole earth and, more and more finely, around the start, in the home that the program is going to
+/// have.
 void writeTerrain() {
     const std::string folder = benchBuildFolder() + "/bench-home-" + std::to_string(::getpid()) + "/.Skyvane/Terrain/";
     std::filesystem::create_directories(folder);
@@ -49,8 +50,14 @@ void writeTerrain() {
             tile[static_cast<size_t>(row * TileSide + column)] = static_cast<int16_t>(
                 1300 + 700 * std::sin(row * 0.031) * std::cos(column * 0.023) + 300 * std::sin((row + column) * 0.07));
     TerrainStore store(folder, 1);
+    // One tile of each level, as the wide mesh and the near one need them, and the neighbours that the flight comes to.
     for (const ITerrainNode* node :
-         {static_cast<ITerrainNode*>(store.getRoot()), findFittingNode(store.getRoot(), {331, 43}, {332, 42})})
+         {static_cast<ITerrainNode*>(store.getRoot()), findFittingNode(store.getRoot(), {331, 43}, {332, 42}),
+          findFittingNode(store.getRoot(), {330, 43}, {332, 42}),
+          findFittingNode(store.getRoot(), {328, 44}, {332, 42}),
+          findFittingNode(store.getRoot(), {332, 44}, {336, 42}),
+          findFittingNode(store.getRoot(), {328, 44}, {336, 40}),
+          findFittingNode(store.getRoot(), {320, 44}, {336, 36})})
         saveTile(getTilePath(folder, node->getId()), tile.data());
 }
 
