@@ -1,5 +1,6 @@
 #include "PlainPage.h"
 
+#include "displays/glide/GliderGrid.h"
 #include "displays/instruments/OneSegmentPanel.h"
 
 #include <algorithm>
@@ -93,13 +94,28 @@ void PlainPage::addField(const irr::core::rect<int>& place, FlexibleFont* font) 
         load("onesegment"),
         {static_cast<float>(from.X), static_cast<float>(from.Y), static_cast<float>(to.X), static_cast<float>(to.Y)},
         irr::video::SColor(0xff000080));
-    const auto addText = [&](const wchar_t* text, const irr::core::rect<int>& box) {
-        texts_.push_back(std::make_unique<Text>());
-        texts_.back()->text.set(font, text, nullptr, box.getSize(), white);
-        texts_.back()->box = box;
-    };
-    addText(L"Alt MSL:", OneSegmentPanel::upperHalf(place));
-    addText(L"12345", OneSegmentPanel::lowerHalf(place));
+    addText(L"Alt MSL:", OneSegmentPanel::upperHalf(place), font);
+    addText(L"12345", OneSegmentPanel::lowerHalf(place), font);
+}
+
+void PlainPage::addGlider(const irr::core::rect<int>& place, FlexibleFont* font) {
+    for (int row = 0; row < glidergrid::rows; ++row) {
+        for (int column = 0; column < glidergrid::columns; ++column) {
+            const irr::core::rect<int> cell = glidergrid::cell(place, row, column);
+            const irr::core::vector2d<int> from = cell.UpperLeftCorner, to = cell.LowerRightCorner;
+            addQuad(load("white"),
+                    {static_cast<float>(from.X), static_cast<float>(from.Y), static_cast<float>(to.X),
+                     static_cast<float>(to.Y)},
+                    irr::video::SColor(glidergrid::groundColor(row, column)));
+            addText(L"-12345", cell, font);
+        }
+    }
+}
+
+void PlainPage::addText(const wchar_t* text, const irr::core::rect<int>& box, FlexibleFont* font) {
+    texts_.push_back(std::make_unique<Text>());
+    texts_.back()->text.set(font, text, nullptr, box.getSize(), white);
+    texts_.back()->box = box;
 }
 
 void PlainPage::addQuad(irr::video::ITexture* texture, const Part& screen, irr::video::SColor color) {

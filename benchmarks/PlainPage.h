@@ -21,6 +21,8 @@ public:
     void addPanel(int factoryIndex, const irr::core::rect<int>& place);
     /// A value field: its ground and two texts.
     void addField(const irr::core::rect<int>& place, FlexibleFont* font);
+    /// A glider panel: the grounds of its cells and a text in each.
+    void addGlider(const irr::core::rect<int>& place, FlexibleFont* font);
 
     void draw();
 
@@ -35,6 +37,7 @@ private:
     };
 
     void addQuad(irr::video::ITexture* texture, const irr::core::rect<float>& screen, irr::video::SColor color);
+    void addText(const wchar_t* text, const irr::core::rect<int>& box, FlexibleFont* font);
     irr::video::ITexture* load(const std::string& name) const;
 
     irr::video::IVideoDriver* driver_;

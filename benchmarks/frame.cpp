@@ -1,5 +1,6 @@
 // Whole frames with a flight coming in, against their quads and texts drawn plainly: the demo's page of dials, and the
-// standard document's page of value fields and dials. Then how many texts are built in frames in which nothing changes.
+// standard document's page of value fields and dials, a glider panel. Then how many texts are built in frames in which
+// nothing changes.
 #include "Bench.h"
 #include "DemoProgram.h"
 #include "PlainPage.h"
@@ -21,6 +22,7 @@ namespace skyvane {
 namespace {
 
 constexpr int fieldFactory = 6;
+constexpr int gliderFactory = 14;
 constexpr int fieldPage = 3;
 const char* const demoConfig = "tools/demo/config.ini";
 
@@ -32,17 +34,38 @@ void addPage(DemoProgram& program, IniFile& config) {
             continue;
         if (panel.factoryIndex == fieldFactory)
             program.getPlainPage().addField(panel.rect, program.getContext().getFlexibleFont());
+        else if (panel.factoryIndex == gliderFactory)
+            program.getPlainPage().addGlider(panel.rect, program.getContext().getFlexibleFont());
         else
             program.getPlainPage().addPanel(panel.factoryIndex, panel.rect);
     }
 }
 
-/// The demo's sensors with the page of fields and dials of the standard document as the only one.
-std::string writeFieldConfig() {
-    IniFile config(demoConfig), standard;
-    standard.setFromString(standardConfigINI);
+/// The demo's sensors, without its panels.
+IniFile readSensors() {
+    IniFile config(demoConfig);
     for (int panel = 0; config.isSectionAvailable("P" + toText(panel)); ++panel)
         config.removeSection("P" + toText(panel));
+    return config;
+}
+
+/// With a glider panel as the only one.
+std::string writeGliderConfig() {
+    IniFile config = readSensors();
+    config.set("", "PanelCount", "1");
+    config.set("P0", "FactoryIndex", toText(gliderFactory));
+    for (const char* key : {"ViewPortSX", "ViewPortSY"})
+        config.set("P0", key, "0");
+    for (const char* key : {"ViewPortTX", "ViewPortTY"})
+        config.set("P0", key, "1");
+    const std::string path = benchBuildFolder() + "/bench-glider.ini";
+    return config.Save(path) ? path : std::string();
+}
+
+/// With the page of fields and dials of the standard document as the only one.
+std::string writeFieldConfig() {
+    IniFile config = readSensors(), standard;
+    standard.setFromString(standardConfigINI);
     int count = 0;
     const PageLayout pages = PageLayout::read(standard, {1280, 0, 720}, false);
     for (const PageLayout::Panel& panel : pages.panels) {
@@ -75,6 +98,10 @@ double fieldFrames(bool smoke) {
     return measurePage(writeFieldConfig(), [smoke](DemoProgram& program) { return frameRatio(program, smoke); });
 }
 
+double gliderFrames(bool smoke) {
+    return measurePage(writeGliderConfig(), [smoke](DemoProgram& program) { return frameRatio(program, smoke); });
+}
+
 /// Meshes and sizes of texts in frames that find the same data as the one before.
 double textBuilds(bool) {
     return measurePage(writeFieldConfig(), [](DemoProgram& program) {
@@ -99,6 +126,7 @@ double textBuilds(bool) {
 std::vector<Bench> frameBenches() {
     return {{"dials.frame", Bench::Bound::AtMost, 1.5, dialFrames},
             {"fields.frame", Bench::Bound::AtMost, 2.0, fieldFrames},
+            {"glider.frame", Bench::Bound::AtMost, 1.5, gliderFrames},
             {"text.rebuilds", Bench::Bound::AtMost, 0.0, textBuilds}};
 }
 
