@@ -20,7 +20,7 @@ constexpr float standardShare = 0.79057f;
 constexpr float pictureUnit = 500.0f;
 constexpr int bigMarkEvery = 5;
 /// Marks nearer to each other than so many of their thickness would look like a ladder.
-constexpr double nearestMarks = 2.4;
+constexpr double nearestMarks = 1.5;
 
 irr::video::SColor colorOf(ISensor::WarningLevel level) {
     return level == ISensor::GOOD ? white : level == ISensor::MAYBE_WRONG ? yellow : red;
