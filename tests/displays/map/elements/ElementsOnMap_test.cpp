@@ -23,6 +23,7 @@
 
 #include <cmath>
 #include <limits>
+#include <map>
 #include <random>
 
 namespace skyvane {
@@ -311,6 +312,55 @@ TEST_F(ElementsOnMap, wildElementsAtTheEdgesOfTheEarth) {
     fly(45.0, inf, {inf, -inf});
     zoom(1);
     EXPECT_EQ(gl.pixel(2, 2).getAlpha(), 255u);
+}
+
+/// While the map moves on and new sets of tiles bring new labels, those that are there keep their side of the symbol.
+TEST_F(ElementsOnMap, labelsAreCalmAndClearOfEachOther) {
+    for (int i = 0; i < 48; ++i) {
+        auto vor = at<VORElement>(-0.4 + 0.11 * (i % 12), -0.12 + 0.08 * (i / 12));
+        vor->ident = "V" + std::to_string(100 + i);
+        add(std::move(vor));
+    }
+    openMap("mapElementSize = 0.03\n");
+    const auto& labels = map->getParts().labels;
+    const auto settle = [&] {
+        for (int i = 0; i < 20 && (labels.isSolving() || map->getParts().tiles.isFilling()); ++i)
+            draw();
+        draw(); // the glide ends
+    };
+    const auto offsets = [&] {
+        std::map<long, irr::core::vector2d<int>> places;
+        for (const RGDContent& label : labels.getShown())
+            places[label.id] =
+                labels.calcRect(label).getCenter() - pixelOf(label.anchor.longitude, label.anchor.latitude);
+        return places;
+    };
+    settle();
+    const auto before = offsets();
+    ASSERT_GT(before.size(), 20u);
+    int covered = 0;
+    for (const RGDContent& one : labels.getShown())
+        for (const RGDContent& other : labels.getShown()) {
+            rect<int> common = labels.calcRect(one);
+            common.clipAgainst(labels.calcRect(other));
+            covered += &one < &other ? std::max(0, common.getArea()) : 0;
+        }
+    EXPECT_LT(covered, 200) << "square pixels of labels on labels";
+
+    size_t moved = 0, known = 0;
+    for (int step = 1; step <= 6; ++step) {
+        fly(90.0, 1000.0, {0.05 * step, 0.0}); // a new set every now and then
+        draw();
+    }
+    map->OnProcedureChanged();
+    settle();
+    for (const auto& [id, offset] : offsets()) {
+        const auto found = before.find(id);
+        known += found != before.end();
+        moved += found != before.end() && found->second.getDistanceFrom(offset) > 6;
+    }
+    EXPECT_GT(known, before.size() / 2);
+    EXPECT_LE(moved, known / 10);
 }
 
 TEST_F(ElementsOnMap, elementsWithoutPointsDrawNothing) {
