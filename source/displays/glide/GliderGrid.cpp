@@ -17,6 +17,10 @@ void addRect(ShapeMesh& mesh, int left, int top, int right, int bottom, uint32_t
     mesh.quad(a, b, c, d);
 }
 
+int lineWidth(const Rect& grid) {
+    return std::max(1, std::min(grid.getWidth(), grid.getHeight()) / 400);
+}
+
 /// Inwards.
 void addFrame(ShapeMesh& mesh, const Rect& rect, int width, uint32_t color) {
     const irr::core::vector2d<int> from = rect.UpperLeftCorner, to = rect.LowerRightCorner;
@@ -38,6 +42,7 @@ Rect cell(const Rect& grid, int row, int column, int rowSpan, int columnSpan) {
 Rect titlePlace(const Rect& grid) {
     Rect place = cell(grid, titleRow, 0, 1, columns);
     place.LowerRightCorner.Y = place.getCenter().Y;
+    place.UpperLeftCorner.Y = std::min(place.UpperLeftCorner.Y + 2 * lineWidth(grid), place.LowerRightCorner.Y);
     return place;
 }
 
@@ -48,7 +53,7 @@ Rect headPlace(const Rect& grid, int column) {
 }
 
 void fill(ShapeMesh& mesh, const Rect& grid, uint32_t lineColor, uint32_t tableColor) {
-    const int line = std::max(1, std::min(grid.getWidth(), grid.getHeight()) / 400);
+    const int line = lineWidth(grid);
     mesh.clear();
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column) {
@@ -65,7 +70,7 @@ void fill(ShapeMesh& mesh, const Rect& grid, uint32_t lineColor, uint32_t tableC
     for (int column = 1; column < columns; ++column) {
         const int x = cell(grid, 0, column).UpperLeftCorner.X;
         if (column == columns / 2) // a label and its value share a field
-            addRect(mesh, x, grid.UpperLeftCorner.Y, x + line, title.UpperLeftCorner.Y, lineColor);
+            addRect(mesh, x, grid.UpperLeftCorner.Y, x + line, cell(grid, titleRow, 0).UpperLeftCorner.Y, lineColor);
         addRect(mesh, x, title.LowerRightCorner.Y, x + line, grid.LowerRightCorner.Y, lineColor);
     }
     addFrame(mesh, cell(grid, titleRow, 0, rows - titleRow, columns), 2 * line, tableColor);

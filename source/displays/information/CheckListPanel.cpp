@@ -60,11 +60,22 @@ void CheckListPanel::makeGUI(const irr::core::rect<int>& rect) {
     items_ = EngineRef<CheckListItems>::share(
         CheckListItems::add(*context_, container_.get(), gui_->getSpecialRectangle("sitems")));
     prepareHelpButton(context_, gui_->getElement("bhelp"), helpPage);
+    hideCutLabels();
     currentAircraft_ = context_->getAircraftManager()->getCurrentAircraftIndex();
     revision_ = context_->getAircraftManager()->getRevision();
     fillAircraftBox(currentAircraft_);
     fillCheckListBox();
     fillCheckListViewBox();
+}
+
+/// In a panel that is too small for them the boxes speak for themselves.
+void CheckListPanel::hideCutLabels() {
+    irr::gui::IGUIFont* font = context_->getSkin()->getFont();
+    for (const char* id : {"tlist", "taircraft"}) {
+        irr::gui::IGUIElement* label = gui_->getElement(id);
+        const int wanted = font ? static_cast<int>(font->getDimension(label->getText()).Width) : 0;
+        label->setVisible(wanted <= label->getAbsolutePosition().getWidth());
+    }
 }
 
 void CheckListPanel::render(irr::core::rect<int> rect) {

@@ -31,6 +31,7 @@ private:
 
     void makeGUI(const irr::core::rect<int>& rect);
     void removeGUI();
+    void hideCutLabels();
     /// Aircraft or their lists were changed by whomever: shows them as they are now.
     void followAircraft();
     void fillAircraftBox(int selected);
