@@ -159,10 +159,8 @@ def scene_plan():
         keep(cockpit.look(), 'simulator')
 
 
-def scene_vision():
-    """The synthetic view with a plan over the fictional mountains."""
-    build = os.path.abspath(sys.argv[1])
-
+def with_terrain(build):
+    """The fictional region with its plan and its mountains."""
     def fill(home):
         prepare(build)(home)
         terrain = os.path.join(home, '.Skyvane/Terrain')
@@ -170,10 +168,20 @@ def scene_vision():
                        check=True, stdout=subprocess.DEVNULL)
         subprocess.run([os.path.join(build, 'tools/chartmaker/chartmaker'), 'levels', terrain], check=True,
                        stdout=subprocess.DEVNULL)
+    return fill
+
+
+def whole_glass(factory, options):
+    """A cockpit of one panel, with terrain."""
     page = [line for line in DEMO.split('[P0]')[0].split('\n') if not line.startswith('PanelCount')]
-    config = ('PanelCount = 1\n' + '\n'.join(page) + '\n[P0]\nFactoryIndex = 3\nPage = 0\nPortrait = 0\nViewPortSX = 0\n'
-              'ViewPortSY = 0\nViewPortTX = 1\nViewPortTY = 1\npfdColor = 128,128,128,64\n')
-    with Cockpit(build, config, SIZE, prepare=fill) as cockpit:
+    config = ('PanelCount = 1\n' + '\n'.join(page) + '\n[P0]\nFactoryIndex = %d\nPage = 0\nPortrait = 0\n'
+              'ViewPortSX = 0\nViewPortSY = 0\nViewPortTX = 1\nViewPortTY = 1\n%s' % (factory, options))
+    return Cockpit(sys.argv[1], config, SIZE, prepare=with_terrain(os.path.abspath(sys.argv[1])))
+
+
+def scene_vision():
+    """The synthetic view with a plan over the fictional mountains."""
+    with whole_glass(3, 'pfdColor = 128,128,128,64\n') as cockpit:
         plan = Plan(cockpit)
         state = 'pitch=2,roll=-8,heading=12,altitude_ft=3020,ias_kt=98,vs_fpm=150,latitude=%f,longitude=%f' % START
         cockpit.feed('--hold', '--state', state)
@@ -183,6 +191,26 @@ def scene_vision():
         plan.press(PLAN, 'bclose', plan.low)
         time.sleep(8)
         keep(cockpit.look()[:panel_area(SIZE)[1]], 'vision')
+
+
+def scene_map():
+    """The map with a plan: following the aircraft, and with a place under its cross."""
+    with whole_glass(2, 'noseLength = 10\ncoastlines = 1\nlowIFR = 0\n') as cockpit:
+        plan = Plan(cockpit)
+        cockpit.feed('--hold', '--state',
+                     'heading=330,altitude_ft=3900,ias_kt=98,gs_kt=98,latitude=42.2600,longitude=-28.3700')
+        time.sleep(4)
+        plan.load(0, 5)
+        time.sleep(1)
+        plan.press(PLAN, 'bclose', plan.low)
+        cockpit.key('plus')
+        time.sleep(1)
+        plan.click(35, panel_area(SIZE)[1] - 35)  # the compass
+        time.sleep(4)
+        keep(cockpit.look()[:panel_area(SIZE)[1]], 'map')
+        plan.click(SIZE[0] * 0.5, SIZE[1] * 0.3)
+        time.sleep(2)
+        keep(cockpit.look()[:panel_area(SIZE)[1]], 'map-marked')
 
 
 def scene_glide():
