@@ -24,6 +24,13 @@ std::string nameInside(const std::string& path) {
     return names.size() > 0 ? archive + "/" + names[0] : archive;
 }
 
+/// A file may claim any place, and who walks its cells would never end. Rasters of the whole earth reach a little
+/// beyond its edges. False for numbers that are none.
+bool isOnEarth(const RasterBounds& bounds) {
+    return bounds.west >= -361.0 && bounds.west < bounds.east && bounds.east <= 721.0 && bounds.south >= -91.0 &&
+           bounds.south < bounds.north && bounds.north <= 91.0;
+}
+
 } // namespace
 
 GDALDatasetUniquePtr openRaster(const std::string& path, const char* const* drivers) {
@@ -53,7 +60,7 @@ bool readRasterBounds(GDALDataset& file, RasterBounds& bounds) {
     return way &&
            way->TransformBounds(xs[0], ys[0], xs[1], ys[1], &bounds.west, &bounds.south, &bounds.east, &bounds.north,
                                 21) &&
-           std::isfinite(bounds.west + bounds.south + bounds.east + bounds.north) && bounds.west < bounds.east;
+           isOnEarth(bounds);
 }
 
 } // namespace skyvane

@@ -71,12 +71,13 @@ TEST(ChartMakerTerrain, tellsWhatIsMissing) {
     EXPECT_EQ(ChartMakerRun({"terrain", "--size", "3"}).status, 2);
 }
 
-/// 1 degree from 10 E 48 N on, a world file beside it: the western half red, the eastern half transparent.
-void writeChart(const std::string& path, unsigned char red, bool isEastOpaque) {
+/// 1 degree from 48 N on, a world file beside it: the western half red, the eastern half transparent.
+void writeChart(const std::string& path, unsigned char red, bool isEastOpaque, double west = 10.0,
+                double degreesPerPixel = 0.01) {
     GDALAllRegister();
     GDALDriver* memory = GetGDALDriverManager()->GetDriverByName("MEM");
     const GDALDatasetUniquePtr chart(memory->Create("", 100, 100, 4, GDT_Byte, nullptr));
-    double place[] = {10.0, 0.01, 0.0, 48.0, 0.0, -0.01};
+    double place[] = {west, degreesPerPixel, 0.0, 48.0, 0.0, -0.01};
     chart->SetGeoTransform(place);
     OGRSpatialReference wgs84;
     wgs84.SetWellKnownGeogCS("WGS84");
@@ -107,6 +108,8 @@ TEST(ChartMakerBackgrounds, fillTheLeavesThatChartsCover) {
     writeChart(folder.path("whole.tif"), 60, true);
     writeChart(folder.path("half.tif"), 200, false);
     folder.write("bad.tif", "no chart");
+    writeChart(folder.path("nowhere.tif"), 60, true, -1e15);
+    writeChart(folder.path("endless.tif"), 60, true, 0.0, 1e9);
     const Arguments common{"backgrounds", "--out", folder.path("Images"), "--vendor", "Maps", "--name", "Test",
                            "--type",      "vfr"};
     const auto run = [&](const std::string& file) {
@@ -125,7 +128,12 @@ TEST(ChartMakerBackgrounds, fillTheLeavesThatChartsCover) {
     EXPECT_EQ(redOf(west, 256, 256), 60) << "the newer one covers";
     EXPECT_EQ(run("half.tif"), 0);
     EXPECT_EQ(redOf(east, 256, 256), 60) << "what was there stays where the newer is transparent";
-    EXPECT_EQ(run("bad.tif"), 1);
+    for (const char* wrong : {"bad.tif", "nowhere.tif", "endless.tif"}) {
+        EXPECT_EQ(run(wrong), 1) << wrong;
+        EXPECT_EQ(ChartMakerRun({"terrain", "--out", folder.path("Terrain"), "--name", "x", folder.path(wrong)}).status,
+                  1)
+            << wrong;
+    }
     std::string vendor;
     EXPECT_EQ(parseBgFile(images + "Test.bg", &vendor, nullptr, nullptr, nullptr, nullptr).size(), 4u);
     EXPECT_EQ(vendor, "Maps");
