@@ -45,6 +45,8 @@ void Aircraft::readFromIni(IniFile& ini, const std::string& section) {
     const int count = std::min(toInt(readValue(ini, section, "ListCount")), maximumCheckLists);
     for (int i = 0; i < count; ++i) {
         const std::string key = "L" + toText(i);
+        if (!ini.isAvailable(section, key) && !ini.isAvailable(section, key + ".Name"))
+            continue;
         const auto lines = parseSeperatedString(readValue(ini, section, key), '|');
         checklists.push_back({readValue(ini, section, key + ".Name"), {lines.begin(), lines.end()}});
     }

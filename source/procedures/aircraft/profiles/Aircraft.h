@@ -34,7 +34,8 @@ public:
     int Vbg = none;  ///< Speed of the best glide.
     double inverseGlideRatio = -1.0;
 
-    /// Takes any document: a value that is missing, negative or no number is none.
+    /// Takes any document: a value that is missing, negative or no number is none. Checklists that are counted, but not
+    /// there, are passed over.
     void readFromIni(IniFile& ini, const std::string& section);
     /// In place of what the section held.
     void writeToIni(IniFile& ini, const std::string& section) const;

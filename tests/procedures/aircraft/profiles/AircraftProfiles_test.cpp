@@ -62,7 +62,7 @@ TEST(Aircraft, TheStoredFormIsPinned) {
 
 TEST(Aircraft, WhatIsMissingOrNoNumberIsNoSpeed) {
     IniFile ini = documentOf("[A0]\nVso = x\nVs = -77\nVne = 99999999999999\nVno = 120\nListCount = 2000000000\n"
-                             "inverseGlideRatio = nan\n");
+                             "L0 = Fuel\nL7.Name = Landing\nL1000 = beyond\ninverseGlideRatio = nan\n");
     Aircraft aircraft;
     aircraft.readFromIni(ini, "A0");
     EXPECT_EQ(-1, aircraft.Vso);
@@ -71,7 +71,8 @@ TEST(Aircraft, WhatIsMissingOrNoNumberIsNoSpeed) {
     EXPECT_EQ(-1, aircraft.Vne);
     EXPECT_EQ(120, aircraft.Vno);
     EXPECT_EQ(-1.0, aircraft.inverseGlideRatio);
-    EXPECT_EQ(Aircraft::maximumCheckLists, aircraft.getCheckListCount());
+    ASSERT_EQ(2, aircraft.getCheckListCount()) << "not what it claims";
+    EXPECT_EQ("Landing", aircraft.getCheckList(1)->name);
     EXPECT_FALSE(ini.isAvailable("A0", "Vfe")) << "asking adds nothing";
 }
 
