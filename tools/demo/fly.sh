@@ -28,16 +28,19 @@ for _ in $(seq 300); do
 done
 
 # Places on the glass, by the measures that the program lays itself out with: buttons, the profile screen, the menu's rows.
-places=$(awk -v w="$width" -v h="$height" 'BEGIN {
+# Those rows always stand there; the replay and the plan add three each.
+rows=$(grep -cE '\{L"[^"]+", "[a-zA-Z]+", [a-zA-Z]+(, hasForwarderFactory)?\}' "$here/../../source/gui/menu/MenuRow.cpp")
+places=$(awk -v w="$width" -v h="$height" -v rows="$((rows + 6))" 'BEGIN {
     root = sqrt(w * h); button = int(0.049410625 * root + 0.5); gap = int(button / 3)
     portrait = h > w; head = gap + int(button * (portrait ? 5 : 3) / 2)
     lastX = gap + (portrait ? 0.3 : 0.76) * (w - 2 * gap); lastY = gap + (portrait ? 0.75 : 0.5) * (head - gap)
     row = int(button * 5 / 4); margin = int(button / 8) > 2 ? int(button / 8) : 2
-    column = 0.379 * root - 3 * margin - button / 2
+    top = h - button - rows * row - 2 * margin; scrolls = top <= 0
+    top = margin + (scrolls ? 0 : top); column = 0.379 * root - 2 * margin - (scrolls ? margin + button / 2 : 0)
     # The bar of the replay: what its handle can move.
     handle = 0.95 * row; barLeft = margin + column / 3 + handle / 2; barWide = 2 * column / 3 - handle
     printf "%d %d %d %d %d %d %d %.1f %.1f", lastX, lastY, 0.095 * root, h - button / 2, 0.19 * root,
-        margin + 4.5 * row, margin + 2.5 * row, barLeft, barWide }')
+        top + 4.5 * row, top + 2.5 * row, barLeft, barWide }')
 read -r lastX lastY menuX menuY rowX nextY barY barLeft barWide <<<"$places"
 
 touch_at() {
