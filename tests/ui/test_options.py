@@ -6,17 +6,20 @@ from test_dials import DEMO
 from test_menu import PANELS, Flight
 
 SIZES = ((1280, 720), (720, 1280))
-TURN, FIELD, LAMP, SLIP = range(4)
-PLACES = {TURN: (0.0, 0.0, 0.4, 0.5), FIELD: (0.6, 0.0, 1.0, 0.4), LAMP: (0.0, 0.6, 0.4, 1.0), SLIP: (0.6, 0.6, 1.0, 1.0)}
-FACTORIES = {TURN: 1, FIELD: 6, LAMP: 7, SLIP: 10}
+TURN, FIELD, LAMP, SLIP, GLIDER = range(5)
+PLACES = {TURN: (0.0, 0.0, 0.4, 0.5), FIELD: (0.6, 0.0, 1.0, 0.4), LAMP: (0.0, 0.6, 0.4, 1.0), SLIP: (0.6, 0.6, 1.0, 1.0),
+          GLIDER: (0.0, 0.0, 1.0, 1.0)}
+FACTORIES = {TURN: 1, FIELD: 6, LAMP: 7, SLIP: 10, GLIDER: 14}
 
 
-def page(size):
+def pages(size):
+    """The glider panel on a page of its own."""
     lines = [line for line in DEMO.split('[P0]')[0].split('\n') if not line.startswith('PanelCount')]
-    config = 'PanelCount = 4\n' + '\n'.join(lines)
+    config = 'PanelCount = 5\n' + '\n'.join(lines)
     for i, place in PLACES.items():
-        config += ('\n[P%d]\nFactoryIndex = %d\nPage = 0\nPortrait = %d\nType = SPEED\nViewPortSX = %f\n'
-                   'ViewPortSY = %f\nViewPortTX = %f\nViewPortTY = %f' % ((i, FACTORIES[i], size[1] > size[0]) + place))
+        config += ('\n[P%d]\nFactoryIndex = %d\nPage = %d\nPortrait = %d\nType = SPEED\nViewPortSX = %f\n'
+                   'ViewPortSY = %f\nViewPortTX = %f\nViewPortTY = %f'
+                   % ((i, FACTORIES[i], i == GLIDER, size[1] > size[0]) + place))
     return config
 
 
@@ -42,7 +45,7 @@ def edit(flight, panel, change):
 @thorough
 def test_options_are_changed_by_combo_boxes_and_ticks(build):
     for size in SIZES:
-        with Cockpit(build, page(size), size) as cockpit:
+        with Cockpit(build, pages(size), size) as cockpit:
             flight = Flight(cockpit)
             flight.open('General Setup')
             flight.choose(flight.editor_row(0), 0, 3)
@@ -58,14 +61,20 @@ def test_options_are_changed_by_combo_boxes_and_ticks(build):
             edit(flight, FIELD, lambda glass: glass.choose(glass.editor_row(0), 1, 18))
             edit(flight, LAMP, lambda glass: glass.choose(glass.editor_row(0), 2, 4))
             edit(flight, SLIP, lambda glass: glass.click(*glass.editor_row(0)))
+            flight.press(PANELS, 'nextPage')
+            edit(flight, GLIDER, lambda glass: glass.choose(glass.editor_row(2), 1, 2))
+            flight.press(PANELS, 'previousPage')
             tap_panel(flight, TURN)
             flight.press(PANELS, 'moveToTop')
             flight.press(PANELS, 'ok')
-            cockpit.wait(lambda: flight.document()['P3']['FactoryIndex'] == '1', 5,
+            cockpit.wait(lambda: flight.document()['P4']['FactoryIndex'] == '1', 5,
                          'the turn indicator on top')
             document = flight.document()
-            assert document['P3']['DrawText'] == '0', document['P3']
+            assert document['P4']['DrawText'] == '0', document['P4']
             assert document['P0']['Type'] == 'BEARING', document['P0']
             assert document['P1']['Type'] == 'COURSE', document['P1']
             assert document['P2']['drawText'] == '0', document['P2']
+            glider = document['P3']
+            assert glider['units'] == 'km|m|m/s' and glider['averageTimeSpan'] == '60000', glider
+            assert [glider['color2.' + channel] for channel in 'RGBA'] == ['255'] * 4, glider
             assert cockpit.close() == 0
