@@ -14,6 +14,10 @@ log=$build/demo-flight.dat
 chartmaker=$build/tools/chartmaker/chartmaker
 flightfeed=$build/tools/flightfeed/flightfeed
 
+# What lies beside the build is made once, also when two ask for it.
+exec 9>"$build/flight.lock"
+flock 9
+
 if [ ! -e "$report" ] || [ "$report" -ot "$build/tools/demo/demoregion" ] || [ "$report" -ot "$chartmaker" ]; then
     rm -rf "$region"
     mkdir -p "$region/Terrain"

@@ -316,8 +316,10 @@ TEST_F(ElementsOnMap, wildElementsAtTheEdgesOfTheEarth) {
 
 /// While the map moves on and new sets of tiles bring new labels, those that are there keep their side of the symbol.
 TEST_F(ElementsOnMap, labelsAreCalmAndClearOfEachOther) {
-    for (int i = 0; i < 48; ++i) {
-        auto vor = at<VORElement>(-0.4 + 0.11 * (i % 12), -0.12 + 0.08 * (i / 12));
+    for (int i = 0; i < 48; ++i) { // four close together here and there
+        const int heap = i / 4;
+        auto vor =
+            at<VORElement>(-0.4 + 0.2 * (heap % 6) + 0.02 * (i % 2), -0.1 + 0.14 * (heap / 6) + 0.02 * (i % 4 / 2));
         vor->ident = "V" + std::to_string(100 + i);
         add(std::move(vor));
     }
