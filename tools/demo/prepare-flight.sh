@@ -55,6 +55,8 @@ if [ "$source" = demo ]; then # begins with the profile screen; the plan is the 
     record
 fi
 sed -n '/^\[P0\]/,$p' "$standard" >>"$config"
+mkdir -p "$home/data"
+cp -n "$flight/aircrafts.ini" "$home/data"
 "$here/prepare-home.sh" "$build" "$home" "$config"
 
 home=$(cd "$home" && pwd)
