@@ -81,8 +81,7 @@ void CheckListPanel::hideCutLabels() {
 void CheckListPanel::render(irr::core::rect<int> rect) {
     if (!container_ || rect != rect_)
         makeGUI(rect);
-    if (revision_ != context_->getAircraftManager()->getRevision())
-        followAircraft();
+    followAircraft();
     Drawer2D* drawer = context_->getDrawer();
     drawer->resetViewPort();
     drawer->drawFilledRect(rect, groundColor);
@@ -105,6 +104,8 @@ Aircraft* CheckListPanel::aircraft() const {
 
 void CheckListPanel::followAircraft() {
     AircraftManager& aircrafts = *context_->getAircraftManager();
+    if (revision_ == aircrafts.getRevision())
+        return;
     revision_ = aircrafts.getRevision();
     const int list = box("clist")->getSelected();
     const bool isOther = currentAircraft_ != aircrafts.getCurrentAircraftIndex();
@@ -167,6 +168,7 @@ void CheckListPanel::select(int checkList) {
 bool CheckListPanel::processEvent(irr::SEvent event) {
     if (event.EventType != irr::EET_GUI_EVENT || !container_ || !container_->isVisible())
         return true;
+    followAircraft();
     gui_->Update(event.GUIEvent);
     if (isChange(event, box("caircraft"))) {
         fillCheckListBox();
