@@ -330,8 +330,8 @@ def test_a_plan_is_flown_as_a_pilot_computes_it(build):
             assert aim is None or distance(place, aim) < 2500, (place, aim)
         assert set(comparison.counts) == {0, 1, 2, 3, 4}, comparison.counts
         assert comparison.lamps == {'COURSE': {'red', 'green'}, 'ALTITUDE': {'red', 'green'}}, comparison.lamps
-        # Two lines say that nobody knows how accurate the runway's data are, two more how high the aircraft is above it.
-        assert all(lines == (4 if height < 600 else 2) for height, lines in messages[2:] if abs(height - 600) > 60), messages
+        # Two lines say how high the aircraft is above the runway; of that itself, which is surveyed, there is nothing to say.
+        assert all(lines == (2 if height < 600 else 0) for height, lines in messages[2:] if abs(height - 600) > 60), messages
         assert any(height < 500 for height, _ in messages)
         assert cockpit.close() == 0
 
