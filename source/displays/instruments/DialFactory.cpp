@@ -35,7 +35,7 @@ void DialFactory::renderPreview(irr::core::rect<int> rect) {
         preview_ = PanelTexture(drawer->getDevice()->getVideoDriver(), context_->getPath(previewPath_));
         previewLoaded_ = true;
     }
-    drawer->Draw(preview_.get(), previewRect(rect));
+    drawer->Draw(preview_.get(), previewRect(rect), &rect);
 }
 
 irr::core::rect<int> DialFactory::previewRect(const irr::core::rect<int>& rect) const {

@@ -35,7 +35,7 @@ protected:
     }
 
     Context* context() const { return context_; }
-    /// Where the preview image goes: the largest square.
+    /// Where the preview image goes: the largest square. What reaches beyond the rectangle is cut.
     virtual irr::core::rect<int> previewRect(const irr::core::rect<int>& rect) const;
 
 private:

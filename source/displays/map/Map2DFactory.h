@@ -15,8 +15,8 @@ public:
     std::unique_ptr<IPanel> Create() override;
 
 protected:
-    /// A map fills its rectangle.
-    irr::core::rect<int> previewRect(const irr::core::rect<int>& rect) const override { return rect; }
+    /// A map fills its rectangle: of the square picture a part is seen, around the aircraft.
+    irr::core::rect<int> previewRect(const irr::core::rect<int>& rect) const override;
 
 private:
     MapSettings settings_;
