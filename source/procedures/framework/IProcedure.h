@@ -59,6 +59,7 @@ public:
     const CourseList& getCourseList() const { return course_.getList(); }
     /// Of the path, in nautical miles.
     double calcTotalLength() const;
+    const ProcedureLocation& getLocation() const { return location_; }
     ProcedureLocation::Type getLocationType() const { return location_.type; }
     int getLocationChartIndex() const { return location_.chartIndex; }
     ChartPosition getLocationPosition() const { return location_.position; }

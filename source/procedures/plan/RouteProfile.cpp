@@ -15,8 +15,21 @@ struct Station {
     double metres; ///< Along the path.
 };
 
-std::vector<Station> stationsOf(FlightPlan& plan, std::vector<RouteProfile::Mark>& marks) {
+/// What lies along the paths.
+struct Stations {
     std::vector<Station> stations;
+    std::vector<RouteProfile::Mark> marks;
+    std::vector<RouteProfile::Stop> stops;
+};
+
+RouteProfile::Stop stopOf(const IProcedure& procedure, const Station& last) {
+    return {procedure.getLocation(), last.metres, last.element->altitude,
+            procedure.getLocationAltitude() != ProcedureValues::NoAltitude};
+}
+
+Stations stationsOf(FlightPlan& plan) {
+    Stations found;
+    auto& stations = found.stations;
     for (int i = plan.getCurrentIndex(); i < plan.getCount(); ++i) {
         const IProcedure* procedure = plan.get(i);
         for (const CourseElement& element : procedure->getCourseList()) {
@@ -25,9 +38,11 @@ std::vector<Station> stationsOf(FlightPlan& plan, std::vector<RouteProfile::Mark
             stations.push_back({&element, stations.empty() ? 0.0 : stations.back().metres + step});
         }
         if (procedure->getLocationType() == ProcedureLocation::ChartElement && !stations.empty())
-            marks.push_back({procedure->getLocationChartIndex(), stations.back().metres});
+            found.marks.push_back({procedure->getLocationChartIndex(), stations.back().metres});
+        if (!procedure->getCourseList().empty())
+            found.stops.push_back(stopOf(*procedure, stations.back()));
     }
-    return stations;
+    return found;
 }
 
 double between(double a, double b, double share) {
@@ -38,8 +53,8 @@ double between(double a, double b, double share) {
 
 std::unique_ptr<RouteProfile> createPointCallFromProcedures(FlightPlan& plan, ITerrainPointCallback* caller,
                                                             int points) {
-    std::vector<RouteProfile::Mark> marks;
-    const std::vector<Station> stations = stationsOf(plan, marks);
+    Stations found = stationsOf(plan);
+    const std::vector<Station>& stations = found.stations;
     if (stations.size() < 2 || points < 2)
         return nullptr;
     const double total = stations.back().metres;
@@ -64,7 +79,8 @@ std::unique_ptr<RouteProfile> createPointCallFromProcedures(FlightPlan& plan, IT
     const double detail = halfKilometres / (points - 1);
     auto profile = std::make_unique<RouteProfile>(caller, std::move(positions), std::max(detail * detail, 1e-6));
     profile->pathAltitudes = std::move(altitudes);
-    profile->marks = std::move(marks);
+    profile->marks = std::move(found.marks);
+    profile->stops = std::move(found.stops);
     profile->totalMetres = total;
     return profile;
 }
@@ -77,7 +93,8 @@ void paintSideProfile(const PointCall& profile, int rows, uint32_t* pixels) {
         const uint32_t color =
             calcTerrainColor(0.0f, height, profile.minimum, profile.maximum, false, false, TerrainShading::Shader);
         for (size_t column = 0; column < width; ++column)
-            pixels[static_cast<size_t>(row) * width + column] = height > profile.heights[column] ? 0 : color;
+            pixels[static_cast<size_t>(row) * width + column] =
+                height > profile.heights[column] || !profile.known[column] ? 0 : color;
     }
 }
 

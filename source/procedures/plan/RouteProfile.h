@@ -1,5 +1,6 @@
 #pragma once
 
+#include "procedures/framework/ProcedureValues.h"
 #include "terrain/paging/TerrainRequests.h"
 
 #include <cstdint>
@@ -16,10 +17,18 @@ struct RouteProfile : PointCall {
         int chartIndex = 0;          ///< Of the element that a procedure leads to.
         double distanceMetres = 0.0; ///< Along the path, where the procedure ends.
     };
+    /// Where a procedure ends.
+    struct Stop {
+        ProcedureLocation location;
+        double distanceMetres = 0.0; ///< Along the path.
+        double altitudeMetres = 0.0; ///< Of the path.
+        bool isAltitudeSet = false;  ///< Somebody chose an altitude for it.
+    };
     using PointCall::PointCall;
 
     std::vector<float> pathAltitudes; ///< Metres, one for each place.
     std::vector<Mark> marks;
+    std::vector<Stop> stops; ///< Of every procedure that has a path.
     double totalMetres = 0.0;
 };
 

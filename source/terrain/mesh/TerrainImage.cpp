@@ -12,11 +12,6 @@ namespace skyvane {
 namespace {
 
 constexpr uint32_t HeightMask = 0xffff;
-/// Of the finest tiles, samples per square kilometre, about.
-constexpr double LeafDensity = 100.0;
-/// A coarse tile stands in for a missing fine one as long as its samples lie so many pixels apart. Beyond that a single
-/// one would become a landscape that isn't there.
-constexpr double CoarsestRatio = 12.0;
 
 /// The rectangle's picture: where its pixels are, and how far apart in metres.
 struct ImageFrame {
@@ -87,12 +82,11 @@ TerrainImageFigures fillTerrainImage(TerrainSampler& terrain, const ChartPositio
     if (width < 1 || height < 1)
         return figures;
     const ImageFrame frame(nw, se, width, height);
-    const double coarsest = std::min(frame.density, LeafDensity) / (CoarsestRatio * CoarsestRatio);
     double sum = 0.0, minimum = HeightMask, maximum = -HeightMask * 1.0;
     for (int row = 0; row < height; ++row)
         for (int column = 0; column < width; ++column) {
             const TerrainSampler::Height sample = terrain.sample(frame.at(column, row), frame.density);
-            const bool known = sample.isKnown && (sample.metres == 0.0f || terrain.getAnsweringDensity() >= coarsest);
+            const bool known = terrain.isBelievable(sample, frame.density);
             if (known)
                 figures.undefined = false;
             const float metres = known ? sample.metres : 0.0f;

@@ -93,8 +93,10 @@ void TerrainPager::answerPoints(PointCalls& calls) {
     for (auto& call : calls) {
         const double density = 1.0 / call->samplingInterval;
         for (size_t i = 0; i < call->positions.size(); ++i) {
-            const float height = sampler.getHeight(call->positions[i], density, true, true);
+            const TerrainSampler::Height sample = sampler.sample(call->positions[i], density);
+            const float height = std::isfinite(sample.metres) ? sample.metres : 0.0f;
             call->heights[i] = height;
+            call->known[i] = sampler.isBelievable(sample, density);
             call->minimum = std::min(call->minimum, height);
             call->maximum = std::max(call->maximum, height);
         }

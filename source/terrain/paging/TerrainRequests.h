@@ -24,7 +24,8 @@ public:
 /// The heights of the ground along a row of positions, and the airspaces over it.
 struct PointCall {
     PointCall(ITerrainPointCallback* who, std::vector<ChartPosition> where, double interval)
-        : caller(who), positions(std::move(where)), heights(positions.size()), samplingInterval(interval) {}
+        : caller(who), positions(std::move(where)), heights(positions.size()), known(positions.size(), 1),
+          samplingInterval(interval) {}
     virtual ~PointCall() = default;
 
     /// The leaves of the area tree that hold a position.
@@ -43,6 +44,7 @@ struct PointCall {
     ITerrainPointCallback* caller;
     std::vector<ChartPosition> positions;
     std::vector<float> heights; ///< Metres; 0 without terrain.
+    std::vector<uint8_t> known; ///< A flag for each height: 0 where the terrain isn't known, or only coarsely.
     double samplingInterval;    ///< Square kilometres for which one sample does.
     unsigned timeStamp = 0;     ///< MilliSecs() of the answer.
     float minimum = 10000.0f;

@@ -3,6 +3,7 @@
 #include "terrain/files/TerrainTile.h"
 #include "terrain/tree/TerrainStore.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace skyvane {
@@ -32,6 +33,14 @@ public:
     double getAnsweringDensity() const {
         const double density = last_.answering ? last_.answering->getDensity() : 0.0;
         return std::isfinite(density) ? density : 0.0;
+    }
+    /// Whether a picture of that density may show the last answer. A coarse tile stands in for a missing fine one as
+    /// long as its samples lie at most twelve of the picture's apart: beyond, a single one would become a landscape
+    /// that isn't there.
+    bool isBelievable(const Height& sample, double density) const {
+        constexpr double leafDensity = 100.0, coarsestRatio = 12.0; // samples per square kilometre, about
+        const double coarsest = std::min(density, leafDensity) / (coarsestRatio * coarsestRatio);
+        return sample.isKnown && (sample.metres == 0.0f || getAnsweringDensity() >= coarsest);
     }
     float getHeight(const ChartPosition& position, double density, bool interpolate, bool zeroIfMissing) {
         return toHeight(getRaw(position, density, interpolate), zeroIfMissing);

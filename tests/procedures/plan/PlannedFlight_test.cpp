@@ -108,6 +108,11 @@ TEST(RouteProfile, asksForTheGroundAtEqualDistancesAndPaintsIt) {
         EXPECT_NEAR(profile->pathAltitudes[i], 1000.0 + 1000.0 * static_cast<double>(i) / 63.0, 5.0);
     }
     EXPECT_NEAR(profile->samplingInterval, std::pow(profile->totalMetres / 2000.0 / 63.0, 2), 1e-9);
+    ASSERT_EQ(profile->stops.size(), 1u);
+    EXPECT_TRUE(profile->stops[0].isAltitudeSet);
+    EXPECT_EQ(profile->stops[0].distanceMetres, profile->totalMetres);
+    EXPECT_NEAR(profile->stops[0].altitudeMetres, 2000.0, 1e-6);
+    EXPECT_EQ(profile->stops[0].location.type, ProcedureLocation::PlainPosition);
     profile->heights.assign(64, 100.0f);
     profile->heights[10] = 400.0f;
     profile->minimum = 100.0f;
@@ -118,6 +123,11 @@ TEST(RouteProfile, asksForTheGroundAtEqualDistancesAndPaintsIt) {
     EXPECT_NE(pixels[10], 0u);
     EXPECT_EQ(pixels[254 * 64], 0u);
     EXPECT_NE(pixels[255 * 64], 0u);
+    profile->known[10] = 0;
+    paintSideProfile(*profile, 256, pixels.data());
+    EXPECT_EQ(pixels[10], 0u) << "nobody knows";
+    plan.getCurrent()->setLocationAltitude(ProcedureValues::NoAltitude);
+    EXPECT_FALSE(createPointCallFromProcedures(plan, nullptr, 64)->stops[0].isAltitudeSet);
     FlightPlan empty;
     EXPECT_FALSE(createPointCallFromProcedures(empty, nullptr, 64));
 }

@@ -77,6 +77,18 @@ TEST_F(Airspaces, areThoseThatTheWayTouches) {
     EXPECT_EQ(text(nowhere) + text(wrong), "");
 }
 
+TEST_F(Airspaces, areFoundInTheWestHoweverLongitudesAreCounted) {
+    Elements elements;
+    elements.push_back(box(-28.55, 41.9, -28.25, 42.3));
+    install("V", "a", elements);
+    const auto store = open();
+    for (const double turn : {0.0, 360.0}) {
+        PointCall call = eastward(turn - 29.0, turn - 28.0, 42.0, 11);
+        fill(call, *store, 1.0);
+        EXPECT_EQ(text(call), "0:4-8 ");
+    }
+}
+
 TEST_F(Airspaces, reachAcrossTheAntimeridian) {
     Elements elements;
     elements.push_back(box(179.45, -1.0, 180.55, 1.0));

@@ -100,6 +100,7 @@ TEST_F(TerrainPaging, answersProfiles) {
     const PointCall& call = *news_.points.front();
     EXPECT_EQ(call.caller, &first);
     EXPECT_EQ(call.heights, (std::vector<float>{500, 400, 0}));
+    EXPECT_EQ(call.known, (std::vector<uint8_t>{1, 1, 0}));
     EXPECT_EQ(call.minimum, 0.0f);
     EXPECT_EQ(call.maximum, 500.0f);
     EXPECT_EQ(news_.points.back()->maximum, -10000.0f);
