@@ -36,6 +36,7 @@ std::vector<Bench> planBenches();
 std::vector<Bench> hypertextBenches();
 std::vector<Bench> mapBenches();
 std::vector<Bench> visionBenches();
+std::vector<Bench> sideViewBenches();
 
 /// Seconds of one call.
 double secondsOf(const std::function<void()>& work);

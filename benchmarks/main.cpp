@@ -29,7 +29,7 @@ constexpr MakeBenches allBenches[] = {
     gdl90Benches,     //
     planBenches,      //
     hypertextBenches, //
-    mapBenches,       visionBenches,
+    mapBenches,       visionBenches, sideViewBenches,
 };
 
 bool holds(const Bench& bench, double value) {

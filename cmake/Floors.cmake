@@ -12,8 +12,8 @@ set(SKYVANE_LOWER_FLOOR
     procedures/course procedures/framework procedures/plan procedures/direct procedures/holding procedures/intercept
     procedures/approach procedures/highway procedures/preview
     terrain/files terrain/tree terrain/mesh terrain/jobs terrain/paging
-    displays/checklist displays/gauges displays/glide displays/labels displays/layout displays/mapmath displays/shapes
-    displays/visionmath
+    displays/checklist displays/gauges displays/glide displays/informationmath displays/labels displays/layout
+    displays/mapmath displays/shapes displays/visionmath
     procedures/aircraft/profiles
     gui/glyphs gui/hypertext/elements gui/hypertext/markup gui/hypertext/pages gui/keys gui/layout gui/layoutmath
     gui/saves)

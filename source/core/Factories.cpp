@@ -6,6 +6,7 @@
 #include "displays/information/DetailsPanelFactory.h"
 #include "displays/information/GlideInfoPanelFactory.h"
 #include "displays/information/GliderPanelFactory.h"
+#include "displays/information/SideViewPanelFactory.h"
 #include "displays/instruments/AltimeterFactory.h"
 #include "displays/instruments/AttitudeIndicatorFactory.h"
 #include "displays/instruments/BatteryPanelFactory.h"
@@ -105,7 +106,7 @@ void registerPanelFactories(Context& context, PanelManager& panels) {
     panels.addPanelFactory(std::make_unique<CheckListPanelFactory>(&context));
     panels.addPanelFactory(std::make_unique<GliderPanelFactory>(&context));
     panels.addPanelFactory(std::make_unique<DetailsPanelFactory>(&context));
-    panels.addPanelFactory(nullptr); // SideViewPanelFactory
+    panels.addPanelFactory(std::make_unique<SideViewPanelFactory>(&context));
     panels.addPanelFactory(std::make_unique<GlideInfoPanelFactory>(&context));
 }
 

@@ -308,6 +308,10 @@ void PanelManager::setFullScreenPanel(IPanel* panel) {
     fullScreenPanel_ = panel;
 }
 
+void PanelManager::drawPanelSeperator(const irr::core::rect<int>& panel, irr::video::SColor color) {
+    context_->getDrawer()->drawOutline(panel, color);
+}
+
 void PanelManager::hideAllPanelGUI() {
     forEachPanel([](IPanel& panel) { panel.OnHideGUI(); });
 }

@@ -129,6 +129,9 @@ public:
     /// Frames until the pilot has closed the manual; sensors go on.
     void blockForManualExit();
 
+    /// The line around a panel that sets it off from its neighbours.
+    void drawPanelSeperator(const irr::core::rect<int>& panel, irr::video::SColor color);
+
     bool isMetric() const { return metric_; }
     bool isDrawFPS() const { return drawFps_; }
     int getTerrainDetailLevel() const { return terrainDetailLevel_; }

@@ -21,7 +21,7 @@ from dials import panel_area  # noqa: E402
 from glass import Glass  # noqa: E402
 from islands import install  # noqa: E402
 from test_checklists import CHECKLISTS, Lists  # noqa: E402
-from test_flightplan import PLAN, START, WHERE, Plan, prepare  # noqa: E402
+from test_flightplan import PLAN, START, WHERE, Plan, prepare, procedure  # noqa: E402
 from test_glide import GLIDE, INFORMATION, TABLE_PANEL, Glider, pages, prepare as prepare_glide  # noqa: E402
 from test_links import SIMULATOR  # noqa: E402
 from test_profiles import Screen, asking, wait_for_screen  # noqa: E402
@@ -247,6 +247,36 @@ def scene_checklist():
             lists.click(*lists.item(number))
         time.sleep(0.5)
         keep(cockpit.look()[:panel_area(SIZE)[1]], 'checklist', 700)
+
+
+def over_the_mountains(home):
+    """The islands with their heights, and a plan across their mountains."""
+    install(sys.argv[1])(home)
+    subprocess.run([os.path.join(ROOT, 'tools/demo/build-region.sh'), sys.argv[1], os.path.join(home, 'region'), '1',
+                    os.path.join(home, '.Skyvane/Terrain')], check=True, stdout=subprocess.DEVNULL)
+    way = [((42.314762523, -28.426699993), 6500), ((42.446063, -28.504766), 8000), ((42.737443626, -28.597470208), 6000),
+           ((42.683484, -28.726768), None)]
+    with open(os.path.join(home, 'data', 'fpl.ini'), 'w') as plans:
+        plans.write('[Mountains]\ncnt = %d\n' % len(way))
+        for i, (place, feet) in enumerate(way):
+            kind = 7 if i in (1, 3) else 3
+            plans.write(procedure(i, 'Direct', place, kind, **({'targetAltitude': feet * 0.3048} if feet else {})))
+
+
+def scene_sideview():
+    config = page_config([('sideview', 16)]).replace('ViewPortTX = 0.333333', 'ViewPortTX = 1').replace(
+        'ViewPortTY = 0.500000', 'ViewPortTY = 1')
+    with Cockpit(sys.argv[1], config, SIZE, prepare=over_the_mountains) as cockpit:
+        plan = Plan(cockpit)
+        cockpit.feed('--hold', '--state', 'latitude=42.14,longitude=-28.24,heading=320,altitude_ft=3500,ias_kt=100,'
+                     'gs_kt=100,vs_fpm=500')
+        time.sleep(2)
+        plan.load(0, 4)
+        plan.menu()
+        plan.menu()
+        plan.click(840, 29)  # "Airspaces"
+        time.sleep(7)
+        keep(cockpit.look(), 'sideview')
 
 
 def scene_keys():

@@ -5,4 +5,5 @@
 extern "C" {
 extern const char gliderPanelOptions[];
 extern const char glideInfoPanelOptions[];
+extern const char sideViewPanelOptions[];
 }

@@ -11,10 +11,14 @@
 namespace skyvane {
 
 ShortText nameOfTarget(Context& context, const IProcedure& procedure) {
+    return nameOfTarget(context, procedure.getLocation());
+}
+
+ShortText nameOfTarget(Context& context, const ProcedureLocation& location) {
     IChartElementSource* charts = context.getCharts();
-    if (!charts || procedure.getLocationType() != ProcedureLocation::ChartElement)
+    if (!charts || location.type != ProcedureLocation::ChartElement)
         return {};
-    const IChartElement* element = charts->getChartElement(procedure.getLocationChartIndex());
+    const IChartElement* element = charts->getChartElement(location.chartIndex);
     if (!element || element->getTrieInsertionNameCount() < 1)
         return {};
     const std::string name = element->getTrieInsertionName(0);

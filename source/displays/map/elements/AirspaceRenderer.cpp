@@ -2,15 +2,12 @@
 
 #include "chart/elements/AirspaceElement.h"
 #include "core/Context.h"
-#include "core/text/Utf8.h"
 #include "displays/PanelManager.h"
-#include "displays/drawing/Drawer2D.h"
 #include "displays/map/Map2D.h"
 #include "displays/map/elements/MapDrawing.h"
 #include "displays/map/elements/RendererParts.h"
 #include "displays/mapmath/elements/AirspaceStyles.h"
 #include "displays/mapmath/elements/OutlineSketch.h"
-#include "gui/font/FlexibleFont.h"
 
 #include <algorithm>
 #include <cmath>
@@ -23,17 +20,12 @@ constexpr float lineWidth = 0.0037947f; ///< Of the root of the screen's pixels.
 constexpr double bandWidth = 11.0;      ///< In thousandths of it.
 constexpr double rimWidth = 0.9;        ///< Likewise: red lines show on red ground by their dark rim.
 constexpr double sideFill = 0.25;
+constexpr float sideLine = 1.8f; ///< Pixels.
 constexpr uint32_t rimColor = 0x80000000;
 constexpr double fineStep = 0.7, coarseStep = 4.0;
 constexpr double largestLabelArea = 3.0, leastLabelled = 110.0;
 constexpr float labelScale = 0.7f;
 const irr::video::SColor labelColor(0xffffffff);
-
-/// Of the same hue, dark enough for white letters.
-uint32_t darkened(uint32_t argb) {
-    const auto part = [argb](int shift) { return ((argb >> shift & 0xff) * 2 / 5) << shift; };
-    return 0xff000000 | part(16) | part(8) | part(0);
-}
 
 } // namespace
 
@@ -62,12 +54,12 @@ void AirspaceRenderer::calcColor(const IChartElement* element, const Map2D& map,
 }
 
 void AirspaceRenderer::OnPreRender2D() {
+    const PanelManager& panels = *parts_.context->getPanelManager();
     for (size_t i = 0; i < irrelevant_.size(); ++i)
-        irrelevant_[i] = i > 0 && isIrrelevant(AirspaceElement::staticAirspaceClassNames[i]);
+        irrelevant_[i] = i > 0 && isIrrelevant(panels, AirspaceElement::staticAirspaceClassNames[i]);
 }
 
-bool AirspaceRenderer::isIrrelevant(const std::string& airspaceClass) const {
-    const PanelManager& panels = *parts_.context->getPanelManager();
+bool AirspaceRenderer::isIrrelevant(const PanelManager& panels, const std::string& airspaceClass) {
     for (unsigned i = 0; i < panels.getIrrelevantAirspaceCount(); ++i)
         if (panels.getIrrelevantAirspace(i) == airspaceClass)
             return true;
@@ -78,7 +70,8 @@ void AirspaceRenderer::render2D(const IChartElement* element, Map2D* map, int in
     const auto& airspace = static_cast<const AirspaceElement&>(*element);
     // The static bytes tell neither all classes nor floors above 29,500 feet.
     const bool isTooHigh = airspace.bottomFeet >= map->getAirspacesBelowFeet();
-    const bool isUnwanted = !map->getSwitches().irrelevant && isIrrelevant(airspace.airspaceClass);
+    const bool isUnwanted =
+        !map->getSwitches().irrelevant && isIrrelevant(*parts_.context->getPanelManager(), airspace.airspaceClass);
     if (!selected && (isTooHigh || isUnwanted))
         return;
     const MapAffine affine = affineOf(*map, intoRTT);
@@ -144,22 +137,24 @@ bool AirspaceRenderer::isPotentiallyRenderable(int index, Map2D* map, const char
     return filterOf(*map, index).showsAirspace(staticBytes, irrelevant_.data(), map->getAirspacesBelowFeet());
 }
 
-void AirspaceRenderer::renderSide(const IChartElement* element, const irr::core::rect<int>& rect) {
-    if (rect.getWidth() < 1 || rect.getHeight() < 1)
+void AirspaceRenderer::renderSide(ShapeMesh& mesh, const AirspaceStyle& style, const ShapePath& upper,
+                                  const ShapePath& lower, const ShapeRect& view) {
+    if (upper.size() < 2 || upper.size() != lower.size())
         return;
-    const auto& airspace = static_cast<const AirspaceElement&>(*element);
-    const uint32_t argb = airspaceStyle(airspace.airspaceClass).argb;
-    Drawer2D& drawer = *parts_.context->getDrawer();
-    drawer.drawFilledRect(rect, irr::video::SColor(withAlpha(argb, sideFill)));
-    drawer.drawOutline(rect, irr::video::SColor(argb), 2);
-    FlexibleFont* font = parts_.context->getFlexibleFont();
-    if (!font)
-        return;
-    const bool metric = parts_.context->getPanelManager()->isMetric();
-    const std::wstring text = decodeUtf8(airspace.airspaceClass + "  " + airspaceLimits(airspace, metric));
-    const irr::core::dimension2d<irr::u32> size = font->getDimension(text.c_str());
-    if (static_cast<int>(size.Width) < rect.getWidth() && static_cast<int>(size.Height) < rect.getHeight())
-        font->draw(text.c_str(), rect, labelColor, true, false, &rect);
+    const uint32_t fill = withAlpha(style.argb, sideFill);
+    uint32_t before = 0;
+    for (size_t i = 0; i < upper.size(); ++i) {
+        const uint32_t here = mesh.add({static_cast<float>(upper[i].X), static_cast<float>(upper[i].Y)}, fill);
+        mesh.add({static_cast<float>(lower[i].X), static_cast<float>(lower[i].Y)}, fill);
+        if (i > 0)
+            mesh.quad(before, here, here + 1, before + 1);
+        before = here;
+    }
+    static thread_local ShapePath outline; // keeps its memory
+    outline.assign(upper.begin(), upper.end());
+    outline.insert(outline.end(), lower.rbegin(), lower.rend());
+    addStroke(mesh, outline, {sideLine * style.widthFactor + 2.0f, rimColor, true, 0.0f, 0.0f}, view);
+    addStroke(mesh, outline, {sideLine * style.widthFactor, style.argb, true, 0.0f, 0.0f}, view);
 }
 
 } // namespace skyvane

@@ -9,7 +9,9 @@
 
 namespace skyvane {
 
+struct AirspaceStyle;
 struct MapAffine;
+class PanelManager;
 struct RendererParts;
 
 /// Airspaces: an outline and a band inside of it, by class.
@@ -27,16 +29,18 @@ public:
     void OnPreRender2D() override;
     bool isPotentiallyRenderable(int index, Map2D* map, const char* staticBytes) override;
 
-    /// A slice of the airspace in a side view: the rectangle between its limits, in pixels of the current viewport,
-    /// with class and limits where there is room.
-    void renderSide(const IChartElement* element, const irr::core::rect<int>& rect);
+    /// Appends a slice of an airspace in a side view: the band between its upper and lower edge, given from left to
+    /// right with as many points each, and its outline, as far as they lie in the view.
+    static void renderSide(ShapeMesh& mesh, const AirspaceStyle& style, const ShapePath& upper, const ShapePath& lower,
+                           const ShapeRect& view);
 
+    /// Whether the pilot doesn't want to see airspaces of that class.
+    static bool isIrrelevant(const PanelManager& panels, const std::string& airspaceClass);
     /// The colour of the outline, its width in pixels on a map, and how broad the band is, 1 for the usual.
     static void calcColor(const IChartElement* element, const Map2D& map, irr::video::SColor& color, float& width,
                           float& bandFactor);
 
 private:
-    bool isIrrelevant(const std::string& airspaceClass) const;
     void addClassLabel(const AirspaceElement& airspace, Map2D& map, int index, const MapAffine& affine);
 
     RendererParts& parts_;

@@ -49,6 +49,11 @@ const AirspaceStyle& airspaceStyle(const std::string& airspaceClass) {
     return found == std::end(styles) ? plainStyle : *found;
 }
 
+uint32_t darkened(uint32_t argb) {
+    const auto part = [argb](int shift) { return ((argb >> shift & 0xff) * 2 / 5) << shift; };
+    return 0xff000000 | part(16) | part(8) | part(0);
+}
+
 int airspaceSelectPriority(const std::string& airspaceClass, double areaSquareMetres, int floorFeet) {
     const double radius = std::sqrt(std::max(0.0, areaSquareMetres) / 1e6);
     const int letter = airspaceClass.empty() ? 0 : std::clamp(airspaceClass[0] - 'A', 0, 10);

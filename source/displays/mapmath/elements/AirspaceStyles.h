@@ -19,6 +19,9 @@ struct AirspaceStyle {
 /// White at the usual widths for a class without a look of its own.
 const AirspaceStyle& airspaceStyle(const std::string& airspaceClass);
 
+/// Of the same hue, opaque, and dark enough for white letters.
+uint32_t darkened(uint32_t argb);
+
 /// Which of several airspaces under a finger is meant: small ones before large ones, high floors last.
 /// `areaSquareMetres` as of AirspaceElement::getBounds().
 int airspaceSelectPriority(const std::string& airspaceClass, double areaSquareMetres, int floorFeet);

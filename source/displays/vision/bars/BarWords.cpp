@@ -39,14 +39,27 @@ void BarWords::measureDigits(const FlexibleFont& font) {
     digits_.height = static_cast<float>(std::max(1, zero->height - 2 * rim));
 }
 
-void BarWords::draw(const std::vector<BarText>& texts) {
+/// The program's, measured; null without one.
+FlexibleFont* BarWords::takeFont() {
     FlexibleFont* font = context_->getFlexibleFont();
-    if (!font)
-        return;
-    if (font_.get() != font) {
+    if (font && font_.get() != font) {
         font_ = EngineRef<FlexibleFont>::share(font);
         measureDigits(*font);
     }
+    return font;
+}
+
+double BarWords::measure(const ShortText& text, double height) {
+    const FlexibleFont* font = takeFont();
+    return font ? font->getDimensionWithTabs(text.c_str(), 1, {1.0f, 1.0f}).Width * height /
+                      static_cast<double>(digits_.height)
+                : 0.0;
+}
+
+void BarWords::draw(const std::vector<BarText>& texts) {
+    FlexibleFont* font = takeFont();
+    if (!font)
+        return;
     drawn_.clear();
     for (const BarText& each : texts) {
         if (std::find(drawn_.begin(), drawn_.end(), each.height) != drawn_.end())

@@ -18,6 +18,8 @@ public:
     explicit BarWords(Context* context);
     ~BarWords();
     void draw(const std::vector<BarText>& texts);
+    /// In pixels, for digits of that height.
+    double measure(const ShortText& text, double height);
 
 private:
     /// How the digits of a font lie, pixels at scale 1.
@@ -26,6 +28,7 @@ private:
         float height = 1.0f;
     };
 
+    FlexibleFont* takeFont();
     void measureDigits(const FlexibleFont& font);
     void drawHeight(FlexibleFont& font, const std::vector<BarText>& texts, double height);
     void add(const FlexibleFont& font, const BarText& text, float scale);
