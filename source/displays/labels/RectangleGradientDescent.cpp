@@ -116,12 +116,12 @@ bool RectangleGradientDescent::freeStuckLabels(const std::function<bool()>& abor
     bool any = false;
     fillTree(true);
     for (Entry& entry : entries_) {
+        if (aborted && aborted())
+            break;
         if (!freeLabel(entry))
             continue;
         any = true;
         fillTree(true);
-        if (aborted && aborted())
-            break;
     }
     return any;
 }

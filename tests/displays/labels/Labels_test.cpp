@@ -212,6 +212,9 @@ TEST(RectangleGradientDescent, freesNobodyWhereThereIsNoRoom) {
     while (jumps < 20 && heap.freeStuckLabels())
         ++jumps;
     EXPECT_LT(jumps, 20) << "they don't change places for ever";
+    int asked = 0;
+    heap.freeStuckLabels([&asked] { return ++asked == 3; });
+    EXPECT_EQ(asked, 3) << "it ends at once";
 }
 
 TEST(ConcurrentRectangleGradientDescent, runsBesideAndIsAborted) {
