@@ -31,6 +31,18 @@ std::string uniqueName() {
     return "skyvane:terrain:" + std::to_string(counter++);
 }
 
+/// A picture of ground that nobody knows, shared by all maps.
+irr::video::ITexture* unknownGround(irr::video::IVideoDriver& driver) {
+    const char* name = "skyvane:terrain:unknown";
+    if (irr::video::ITexture* made = driver.findTexture(name))
+        return made;
+    const irr::core::dimension2du size(1, 1);
+    const auto image = EngineRef<irr::video::IImage>::adopt(driver.createImage(irr::video::ECF_A8R8G8B8, size));
+    if (image)
+        image->fill(irr::video::SColor(0x80800000));
+    return image ? driver.addTexture(name, image.get()) : nullptr;
+}
+
 EngineRef<irr::scene::SMeshBuffer> makeQuad(irr::video::E_MATERIAL_TYPE type, irr::video::ITexture* gradient) {
     EngineRef<irr::scene::SMeshBuffer> quad = makePlainQuad();
     quad->Material.MaterialType = type;
@@ -44,7 +56,10 @@ EngineRef<irr::scene::SMeshBuffer> makeQuad(irr::video::E_MATERIAL_TYPE type, ir
 
 MapTerrain::MapTerrain(Context* context, IPanel* panel, irr::video::ITexture* gradient)
     : context_(context), panels_(context->getPanelManager()), drawer_(context->getDrawer()), panel_(panel),
-      quad_(makeQuad(context->getMaterialManager()->getMaterialType("Terrain2D"), gradient)) {}
+      quad_(makeQuad(context->getMaterialManager()->getMaterialType("Terrain2D"), gradient)),
+      unknownQuad_(makeQuad(context->getMaterialManager()->getMaterialType("Terrain2D"), gradient)) {
+    unknownQuad_->Material.setTexture(0, unknownGround(*drawer_->getDevice()->getVideoDriver()));
+}
 
 MapTerrain::~MapTerrain() {
     if (TerrainManager* terrain = panels_->getTerrainManager())
@@ -150,13 +165,28 @@ bool MapTerrain::isGroundKnownElsewhere() const {
 }
 
 void MapTerrain::draw(const MapView& view, double altitudeMetres, bool isOpaque) {
+    OGLTerrain2DCB* shader = context_->getMaterialManager()->getTerrain2DCallback();
+    shader->setAlpha(isOpaque ? 1.0f : overlayAlpha, isOpaque ? 1.0f : warningAlpha);
+    if (isOpaque && !doesCoverScreen(view) && isGroundKnownElsewhere())
+        drawUnknown(view);
     if (!isDrawable())
         return;
-    OGLTerrain2DCB* shader = context_->getMaterialManager()->getTerrain2DCallback();
     setHeightLimits(altitudeMetres);
-    shader->setAlpha(isOpaque ? 1.0f : overlayAlpha, isOpaque ? 1.0f : warningAlpha);
-    shader->setImageSize(texture_->getSize());
     shader->moveLight();
+    drawPicture(view);
+}
+
+/// Before the first picture, and beyond its edges until the next one is there.
+void MapTerrain::drawUnknown(const MapView& view) {
+    const double width = view.getPanel().width, height = view.getPanel().height;
+    const MapView::Point corners[4] = {{0.0, 0.0}, {width, 0.0}, {0.0, height}, {width, height}};
+    context_->getMaterialManager()->getTerrain2DCallback()->setImageSize({1, 1});
+    placeQuad(*unknownQuad_, corners, irr::video::SColor(0xffffffff));
+    drawer_->draw2DMeshBuffer(unknownQuad_.get());
+}
+
+void MapTerrain::drawPicture(const MapView& view) {
+    context_->getMaterialManager()->getTerrain2DCallback()->setImageSize(texture_->getSize());
     // From the middle, so that a wide picture's corners don't take the shorter way round.
     const MapView::Point middle = view.toPanel(box_.getCentre());
     const double halfWidth = 0.5 * box_.getWidth() / view.getLongitudePerPixel();

@@ -15,7 +15,8 @@ class PanelManager;
 class IPanel;
 
 /// The ground below a map: a picture of heights and slopes that the terrain's thread makes, coloured as it is drawn by
-/// the material "Terrain2D". A picture stays on its place of the earth until a new one arrives. Main thread only.
+/// the material "Terrain2D". A picture stays on its place of the earth until a new one arrives; what it doesn't reach
+/// is hatched like ground that nobody knows. Main thread only.
 class MapTerrain {
 public:
     /// Asks on behalf of that panel, which hands the answers back.
@@ -30,11 +31,11 @@ public:
     void requestAnew() { isWanted_ = true; }
     void onResult(const ChartPosition& nw, const ChartPosition& se, irr::video::IImage* image, bool undefined,
                   float minimum, float average, float maximum);
-    bool isDrawable() const { return texture_ && (!undefined_ || isGroundKnownElsewhere()); }
     /// In the panel's viewport. `opaque` where nothing lies below: else only ground that warns is seen.
     void draw(const MapView& view, double altitudeMetres, bool isOpaque);
 
 private:
+    bool isDrawable() const { return texture_ && (!undefined_ || isGroundKnownElsewhere()); }
     MapBox wantedBox(const MapView& view) const;
     bool doesCoverScreen(const MapView& view) const;
     void request(const MapView& view);
@@ -43,12 +44,14 @@ private:
     /// Without any terrain the map has no ground at all; else what nobody knows is told from what is known.
     bool isGroundKnownElsewhere() const;
     void setHeightLimits(double altitudeMetres);
+    void drawPicture(const MapView& view);
+    void drawUnknown(const MapView& view);
 
     Context* context_;
     PanelManager* panels_; ///< Beyond its own life in the context, while it lets its panels go.
     Drawer2D* drawer_;
     IPanel* panel_;
-    EngineRef<irr::scene::SMeshBuffer> quad_;
+    EngineRef<irr::scene::SMeshBuffer> quad_, unknownQuad_;
     EngineRef<irr::video::IImage> image_; ///< That the terrain's thread fills.
     MapBox askedBox_;
     bool isAsked_ = false;
