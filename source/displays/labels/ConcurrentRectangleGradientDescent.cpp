@@ -3,11 +3,14 @@
 #include "core/threads/ThreadPool.h"
 #include "core/time/Time.h"
 
+#include <algorithm>
+
 namespace skyvane {
 namespace {
 
-/// So often labels that are stuck are sent elsewhere.
+/// So often labels that are stuck are sent elsewhere, and get so many rounds to settle.
 constexpr int rescues = 2;
+constexpr unsigned roundsAfterRescue = 60;
 
 } // namespace
 
@@ -66,7 +69,7 @@ void ConcurrentRectangleGradientDescent::run() {
     const auto aborted = [this] { return isAborted(); };
     solver_.optimize(maxIterations_, step_, threshold_, anchorsAreObstacles_, aborted);
     for (int i = 0; i < rescues && !aborted() && solver_.freeStuckLabels(aborted); ++i)
-        solver_.optimize(maxIterations_, step_, threshold_, anchorsAreObstacles_, aborted);
+        solver_.optimize(std::min(maxIterations_, roundsAfterRescue), step_, threshold_, anchorsAreObstacles_, aborted);
     const std::lock_guard<std::mutex> lock(mutex_);
     running_ = false;
 }
