@@ -57,7 +57,8 @@ void SideViewButtons::show(const irr::core::rect<int>& panel, const State& state
     showsAll_ = all;
     for (int i = 0; i < SideButton::Count; ++i) {
         irr::gui::IGUIButton* button = buttons_[static_cast<size_t>(i)].get();
-        button->setRelativePosition(places.buttons[static_cast<size_t>(i)]);
+        const bool isAlone = i == SideButton::Airspaces && !all;
+        button->setRelativePosition(isAlone ? places.alone : places.buttons[static_cast<size_t>(i)]);
         button->setVisible(isWanted(static_cast<SideButton::Kind>(i), all, state));
     }
     const auto say = [this](SideButton::Kind button, bool other) {

@@ -28,6 +28,9 @@ SideButtonPlaces placeSideButtons(const irr::core::rect<int>& panel, int buttonW
         places.buttons[static_cast<size_t>(i)] = {right - width, top, right, top + height};
         right -= width + gap;
     }
+    const irr::core::rect<int>& first = places.buttons[0];
+    places.alone = first;
+    places.alone += irr::core::vector2d<int>(panel.LowerRightCorner.X - gap - first.LowerRightCorner.X, 0);
     places.mayStay = panel.getHeight() >= staysBelowShare * buttonHeight;
     return places;
 }

@@ -14,6 +14,8 @@ enum Kind { Airspaces, Narrow, Center, Widen, Ahead, FullScreen, Count };
 /// Where they stand: in a row at the upper edge, from the right, as large as the program's buttons where there is room.
 struct SideButtonPlaces {
     std::array<irr::core::rect<int>, SideButton::Count> buttons;
+    /// Of the first one, while the others aren't shown: in the corner, where it hides least.
+    irr::core::rect<int> alone;
     /// They leave enough of the panel to stay.
     bool mayStay = false;
 };

@@ -304,6 +304,8 @@ TEST(SideLayout, buttonsKeepWithinTheirPanelAndApart) {
                 EXPECT_GE(place.UpperLeftCorner.X, panel.UpperLeftCorner.X);
             }
         }
+        EXPECT_EQ(places.alone.LowerRightCorner.X, places.buttons.back().LowerRightCorner.X);
+        EXPECT_EQ(places.alone.getWidth(), places.buttons.front().getWidth());
         EXPECT_EQ(places.mayStay, panel.getHeight() >= 6 * 47);
     }
 }
