@@ -31,11 +31,12 @@ public:
     void requestAnew() { isWanted_ = true; }
     void onResult(const ChartPosition& nw, const ChartPosition& se, irr::video::IImage* image, bool undefined,
                   float minimum, float average, float maximum);
+    /// Whether a picture is there that says something.
+    bool isDrawable() const { return texture_ && (!undefined_ || isGroundKnownElsewhere()); }
     /// In the panel's viewport. `opaque` where nothing lies below: else only ground that warns is seen.
     void draw(const MapView& view, double altitudeMetres, bool isOpaque);
 
 private:
-    bool isDrawable() const { return texture_ && (!undefined_ || isGroundKnownElsewhere()); }
     MapBox wantedBox(const MapView& view) const;
     bool doesCoverScreen(const MapView& view) const;
     void request(const MapView& view);
