@@ -45,6 +45,8 @@ ITexture* loadMipmappedTexture(irr::video::IVideoDriver* driver, const std::stri
     if (ITexture* known = driver->findTexture(path.c_str()))
         return known;
     const EngineRef<IImage> image = readArgbImage(driver, path);
+    if (!image && !fileExist(path))
+        logText("There is no picture " + path + "\n");
     return image ? addMipmappedTexture(driver, path, *image) : nullptr;
 }
 

@@ -14,10 +14,9 @@ void fillList(irr::gui::IGUIListBox* list, irr::gui::IGUISkin& skin, const std::
     const irr::core::rect<irr::s32> place = list->getAbsolutePosition();
     const bool scrolls = static_cast<int>(rows.size()) * skin.getSize(irr::gui::EGDS_BUTTON_HEIGHT) > place.getHeight();
     const int room = place.getWidth() - (scrolls ? skin.getSize(irr::gui::EGDS_SCROLLBAR_SIZE) : 0) - rowMargin;
-    list->clear();
+    list->clear(); // which selects none; the engine's own way to select none scrolls to the end
     for (const std::wstring& row : rows)
         list->addItem(fitText(skin.getFont(), row, room).c_str());
-    list->setSelected(-1);
 }
 
 void fillChoice(irr::gui::IGUIComboBox* box, irr::gui::IGUISkin& skin, const std::vector<std::wstring>& rows) {
