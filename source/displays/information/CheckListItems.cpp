@@ -57,6 +57,11 @@ CheckListItems::CheckListItems(Context& context, irr::gui::IGUIElement* parent, 
       context_(context), tick_(loadPanelImage(&context, "media/tick.png")),
       edge_(context.getRecommendedButtonHeight() * 3 / 4) {}
 
+CheckListItems::~CheckListItems() {
+    if (bar_)
+        bar_->unlinkScrollable();
+}
+
 void CheckListItems::begin(const std::list<std::string>& lines) {
     progress_.begin(lines);
     layOut();

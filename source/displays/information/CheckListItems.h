@@ -21,6 +21,9 @@ class ScrollBar;
 /// Allocates nothing in a frame in which nothing changed. Main thread only.
 class CheckListItems : public irr::gui::IGUIElement, public IScrollable {
 public:
+    /// The bar may live on.
+    ~CheckListItems() override;
+
     /// The parent holds it, and a scroll bar at its right edge where it is needed.
     static CheckListItems* add(Context& context, irr::gui::IGUIElement* parent, const irr::core::rect<int>& place);
 

@@ -37,9 +37,9 @@ std::string differenceText(std::optional<double> metres, bool metric) {
 }
 
 int trendOf(int climbRate) {
-    if (std::abs(climbRate) < noticeableClimb || std::abs(climbRate) > fastestClimb)
+    if (climbRate > fastestClimb || climbRate < -fastestClimb)
         return 0;
-    return climbRate > 0 ? 1 : -1;
+    return climbRate >= noticeableClimb ? 1 : climbRate <= -noticeableClimb ? -1 : 0;
 }
 
 std::string printable(const std::string& name) {

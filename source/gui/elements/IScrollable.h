@@ -4,7 +4,7 @@ namespace skyvane {
 
 class ScrollBar;
 
-/// Something that a ScrollBar moves.
+/// Something that a ScrollBar moves. Whoever may end before the bar unlinks it.
 class IScrollable {
 public:
     virtual ~IScrollable() = default;
