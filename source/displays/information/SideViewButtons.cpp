@@ -2,7 +2,6 @@
 
 #include "core/Context.h"
 #include "core/time/Time.h"
-#include "gui/skin/Skin.h"
 #include "gui/windows/WindowTools.h"
 
 namespace skyvane {
@@ -25,13 +24,9 @@ constexpr Look looks[] = {{L"Airspaces", nullptr, "stdNormal"}, {L"-", nullptr, 
 
 SideViewButtons::SideViewButtons(Context* context) : context_(context) {
     irr::gui::IGUIEnvironment* environment = context->getIrrlichtDevice()->getGUIEnvironment();
-    for (size_t i = 0; i < buttons_.size(); ++i) {
-        irr::gui::IGUIButton* button =
-            environment->addButton(irr::core::rect<int>(0, 0, 1, 1), nullptr, -1, looks[i].label);
-        Skin::setButtonStyle(button, looks[i].style);
-        button->setVisible(false);
-        buttons_[i] = EngineRef<irr::gui::IGUIButton>::share(button);
-    }
+    for (size_t i = 0; i < buttons_.size(); ++i)
+        buttons_[i] =
+            EngineRef<irr::gui::IGUIButton>::share(addHiddenButton(environment, looks[i].label, looks[i].style));
 }
 
 SideViewButtons::~SideViewButtons() {

@@ -28,13 +28,9 @@ constexpr const char* directStyle = "direct2Normal";
 
 MapButtons::MapButtons(Context* context) : context_(context) {
     irr::gui::IGUIEnvironment* environment = context->getIrrlichtDevice()->getGUIEnvironment();
-    for (size_t i = 0; i < buttons_.size(); ++i) {
-        irr::gui::IGUIButton* button =
-            environment->addButton(irr::core::rect<int>(0, 0, 1, 1), nullptr, -1, looks[i].label);
-        Skin::setButtonStyle(button, looks[i].style);
-        button->setVisible(false);
-        buttons_[i] = EngineRef<irr::gui::IGUIButton>::share(button);
-    }
+    for (size_t i = 0; i < buttons_.size(); ++i)
+        buttons_[i] =
+            EngineRef<irr::gui::IGUIButton>::share(addHiddenButton(environment, looks[i].label, looks[i].style));
     prepareHelpButton(context, buttons_[Help].get(), "Map2D.hti");
 }
 

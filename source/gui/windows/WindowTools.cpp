@@ -1,8 +1,17 @@
 #include "gui/windows/WindowTools.h"
 
+#include "gui/skin/Skin.h"
+
 #include <cwchar>
 
 namespace skyvane {
+
+irr::gui::IGUIButton* addHiddenButton(irr::gui::IGUIEnvironment* environment, const wchar_t* label, const char* style) {
+    irr::gui::IGUIButton* button = environment->addButton(irr::core::rect<int>(0, 0, 1, 1), nullptr, -1, label);
+    Skin::setButtonStyle(button, style);
+    button->setVisible(false);
+    return button;
+}
 
 void removeWindow(irr::gui::IGUIElement* window) {
     if (!window)

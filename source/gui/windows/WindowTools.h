@@ -5,6 +5,9 @@
 
 namespace skyvane {
 
+/// A button without a place, hidden: whoever shows it lays it out. The environment holds it.
+irr::gui::IGUIButton* addHiddenButton(irr::gui::IGUIEnvironment* environment, const wchar_t* label, const char* style);
+
 /// Takes a window, or any element, out of the GUI. Null does nothing.
 void removeWindow(irr::gui::IGUIElement* window);
 
