@@ -140,6 +140,7 @@ def silence_leaves_no_number(glider):
     glider.keep('glider-failed')
 
 
+@thorough
 def test_a_glide_is_reckoned_to_the_airport(build):
     with Cockpit(build, pages(SIZE, [(INFORMATION, ''), (TABLE_PANEL, '')]), SIZE, prepare=prepare(build)) as cockpit:
         glider = Glider(cockpit)

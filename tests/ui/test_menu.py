@@ -118,6 +118,7 @@ def choose_presets(flight):
     flight.wait_for('optimized', '')
 
 
+@thorough
 def test_settings_aircraft_and_presets_are_changed_from_the_menu(build):
     with Cockpit(build, DEMO, SIZE) as cockpit:
         flight = Flight(cockpit)
@@ -165,6 +166,7 @@ def forward(flight):
     flight.press(FORWARDERS, 'bclose', area)
 
 
+@thorough
 def test_altimeter_forwarders_calibration_and_homepage(build):
     browser = os.path.join(build, 'test-browser')
     os.makedirs(browser, exist_ok=True)

@@ -6,6 +6,7 @@ import numpy
 
 from cockpit import Cockpit
 from dials import Dial, panel_area
+from run_tests import thorough
 from test_dials import DEMO, STATES, hold
 from test_menu import Flight
 
@@ -81,6 +82,7 @@ def overlays_give_way(flight):
     cockpit.key('XF86_Back')
 
 
+@thorough
 def test_what_stands_on_a_page_answers_taps(build):
     for size in SIZES:
         with Cockpit(build, page(size), size) as cockpit:
