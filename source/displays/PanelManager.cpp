@@ -139,6 +139,8 @@ void PanelManager::RenderAfterGUI() {
     }
     if (isMessageBoxShown())
         messageBox_->render();
+    else
+        messageBox_->letMousePass();
     if (overlays_)
         overlays_->render();
 }
@@ -319,7 +321,7 @@ void PanelManager::hideAllPanelGUI() {
 void PanelManager::setMessage(const std::string& text, irr::video::SColor box, irr::video::SColor textColor,
                               int durationMilliseconds, bool close) {
     messageBox_->show(text, {box.color, textColor.color}, durationMilliseconds, close, messageSpace(),
-                      !messagesDisabled_);
+                      isMessageBoxShown());
 }
 
 void PanelManager::setMessage(void* owner, const std::string& text, MESSAGECOLOR level, int timeoutMilliseconds) {

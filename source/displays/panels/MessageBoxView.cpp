@@ -50,23 +50,28 @@ void MessageBoxView::show(const std::string& text, MessageBox::Colors colors, in
     layOut(text, close, space);
     box_.show(rects_, colors, durationMilliseconds, MilliSecs());
     if (enabled)
-        setNoMouseBox_(&rects_.box);
+        keepMouse(&rects_.box);
 }
 
 void MessageBoxView::hide() {
-    if (box_.isVisible())
-        setNoMouseBox_(nullptr);
+    letMousePass();
     box_.hide();
+}
+
+void MessageBoxView::keepMouse(const irr::core::rect<int>* box) {
+    if (box ? kept_ == *box : !kept_)
+        return;
+    kept_ = box ? std::optional(*box) : std::nullopt;
+    setNoMouseBox_(box);
 }
 
 void MessageBoxView::render() {
     MessageBox::Colors colors{};
     if (!box_.isVisible())
         return;
-    if (!box_.update(MilliSecs(), colors)) {
-        setNoMouseBox_(nullptr);
-        return;
-    }
+    if (!box_.update(MilliSecs(), colors))
+        return letMousePass();
+    keepMouse(&rects_.box);
     const irr::video::SColor textColor(colors.text);
     const irr::core::rect<int>& box = rects_.box;
     Drawer2D* drawer = app_->getDrawer();
@@ -91,7 +96,7 @@ MessageBox::Answer MessageBoxView::processMouse(const irr::SEvent::SMouseInput& 
     else if (mouse.Event == irr::EMIE_LMOUSE_LEFT_UP)
         answer = box_.release(mouse.X, mouse.Y);
     if (answer == MessageBox::Answer::Dismissed)
-        setNoMouseBox_(nullptr);
+        letMousePass();
     return answer;
 }
 

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <irrlicht.h>
+#include <optional>
 #include <string>
 
 namespace skyvane {
@@ -29,13 +30,17 @@ public:
     /// The font or its scale has changed: measure again.
     void forgetLayout() { text_.clear(); }
 
+    /// Draws the box; where it is seen, the mouse is its own.
     void render();
+    /// For frames that don't draw it: what lies beneath has the mouse again.
+    void letMousePass() { keepMouse(nullptr); }
     MessageBox::Answer processMouse(const irr::SEvent::SMouseInput& mouse);
     bool isVisible() const { return box_.isVisible(); }
 
 private:
     void layOut(const std::string& text, bool close, const MessageSpace& space);
     irr::gui::IGUIFont* skinFont() const;
+    void keepMouse(const irr::core::rect<int>* box);
 
     ICommonAppContext* app_;
     SetNoMouseBox setNoMouseBox_;
@@ -46,6 +51,7 @@ private:
     irr::core::dimension2d<irr::u32> textSize_;
     MessageRects rects_;
     bool close_ = false;
+    std::optional<irr::core::rect<int>> kept_; ///< What was told last.
 };
 
 } // namespace skyvane

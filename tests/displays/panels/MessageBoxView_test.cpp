@@ -120,6 +120,15 @@ TEST_F(MessageBoxViewTest, neitherEmptyNorDisabledOnesBlockTheMouse) {
     EXPECT_FALSE(noMouse);
 }
 
+TEST_F(MessageBoxViewTest, aBoxThatIsNotDrawnForAWhileLeavesTheMouseMeanwhile) {
+    show("text");
+    const auto box = noMouse;
+    view->letMousePass();
+    EXPECT_FALSE(noMouse);
+    frame();
+    EXPECT_EQ(noMouse, box);
+}
+
 TEST_F(MessageBoxViewTest, wrapsLongTextsWithinTheScreen) {
     std::string words;
     for (int i = 0; i < 40; ++i)
