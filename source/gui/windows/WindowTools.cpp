@@ -1,5 +1,6 @@
 #include "gui/windows/WindowTools.h"
 
+#include "gui/layoutmath/ShortText.h"
 #include "gui/skin/Skin.h"
 
 #include <cwchar>
@@ -25,15 +26,11 @@ void showText(irr::gui::IGUIElement* element, const wchar_t* text) {
         element->setText(text);
 }
 
-std::wstring fitText(irr::gui::IGUIFont* font, std::wstring text, int width) {
-    const auto isTooWide = [&](const std::wstring& shown) {
-        return static_cast<int>(font->getDimension(shown.c_str()).Width) > width;
+std::wstring fitText(irr::gui::IGUIFont* font, const std::wstring& text, int width) {
+    const auto fits = [&](const std::wstring& shown) {
+        return static_cast<int>(font->getDimension(shown.c_str()).Width) <= width;
     };
-    if (!font || !isTooWide(text))
-        return text;
-    while (!text.empty() && isTooWide(text + L"..."))
-        text.pop_back();
-    return text + L"...";
+    return font ? keepBegin(text, fits) : text;
 }
 
 bool isClickOf(const irr::SEvent& event, const irr::gui::IGUIElement* button) {

@@ -15,7 +15,7 @@ void removeWindow(irr::gui::IGUIElement* window);
 void showText(irr::gui::IGUIElement* element, const wchar_t* text);
 
 /// The text as far as it fits into that many pixels, its end replaced by dots where it doesn't.
-std::wstring fitText(irr::gui::IGUIFont* font, std::wstring text, int width);
+std::wstring fitText(irr::gui::IGUIFont* font, const std::wstring& text, int width);
 
 /// Whether this is the click of that button; never for null.
 bool isClickOf(const irr::SEvent& event, const irr::gui::IGUIElement* button);
