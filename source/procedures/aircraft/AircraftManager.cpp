@@ -23,7 +23,7 @@ void AircraftManager::extractIniValues() {
 void AircraftManager::saveAircrafts() {
     ++revision_;
     const std::string path = context_->getPath(documentPath);
-    if (!profiles_.save(path))
+    if (!profiles_.write().Save(path))
         context_->showMessageBox("The aircraft could not be saved to " + path);
 }
 

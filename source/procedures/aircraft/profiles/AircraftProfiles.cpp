@@ -6,7 +6,6 @@
 #include "core/text/Numbers.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace skyvane {
 namespace {
@@ -52,11 +51,6 @@ IniFile AircraftProfiles::write() const {
     for (int i = 0; i < getCount(); ++i)
         aircraft_[static_cast<std::size_t>(i)].writeToIni(ini, sectionName(i));
     return ini;
-}
-
-bool AircraftProfiles::save(const std::string& path) const {
-    const std::string fresh = path + ".new";
-    return write().Save(fresh) && std::rename(fresh.c_str(), path.c_str()) == 0;
 }
 
 Aircraft* AircraftProfiles::get(int index) {

