@@ -136,6 +136,8 @@ void IniEditor::createGUI() {
     AggregateGUIElement::Options options = layoutOf(1.0f, false);
     options.scrollable = true;
     pane_ = new AggregateGUIElement(environment_, options, rows, {}, window_, pane);
+    for (const auto& field : fields_)
+        field->fitChoices(*environment_->getSkin());
     pane_->drop();
     if (pane_->canScroll())
         addScrollBar(

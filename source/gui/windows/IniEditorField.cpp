@@ -3,6 +3,9 @@
 #include "core/text/Numbers.h"
 #include "core/text/Utf8.h"
 #include "gui/elements/ColorSwatch.h"
+#include "gui/windows/ListRows.h"
+
+#include <algorithm>
 
 namespace skyvane {
 namespace {
@@ -22,7 +25,8 @@ public:
 } // namespace
 
 IniEditorField::IniEditorField(irr::gui::IGUIEnvironment* environment, const EditorRow& row)
-    : row_(row), element_(EngineRef<irr::gui::IGUIElement>::share(make(environment))),
+    : row_(row), choices_(row.type == Type::ONE_OF ? row.getAlternatives() : std::vector<std::wstring>()),
+      element_(EngineRef<irr::gui::IGUIElement>::share(make(environment))),
       label_(EngineRef<irr::gui::IGUIStaticText>::share(
           environment->addStaticText(row.label.c_str(), laidOutLater, false, true))) {
     label_->setTextAlignment(irr::gui::EGUIA_UPPERLEFT, irr::gui::EGUIA_CENTER);
@@ -54,8 +58,8 @@ irr::gui::IGUIElement* IniEditorField::make(irr::gui::IGUIEnvironment* environme
 
 irr::gui::IGUIElement* IniEditorField::makeChoice(irr::gui::IGUIEnvironment* environment) const {
     irr::gui::IGUIComboBox* box = environment->addComboBox(laidOutLater);
-    for (const std::wstring& alternative : row_.getAlternatives())
-        box->addItem(alternative.c_str());
+    for (const std::wstring& choice : choices_)
+        box->addItem(choice.c_str());
     box->setSelected(box->getItemCount() > 0 ? 0 : -1);
     return box;
 }
@@ -74,6 +78,14 @@ irr::gui::IGUIElement* IniEditorField::makeElementButton(irr::gui::IGUIEnvironme
     irr::gui::IGUIButton* button = environment->addButton(laidOutLater);
     button->setEnabled(false);
     return button;
+}
+
+void IniEditorField::fitChoices(irr::gui::IGUISkin& skin) {
+    if (row_.type != Type::ONE_OF)
+        return;
+    const irr::s32 selected = choice()->getSelected();
+    fillChoice(choice(), skin, choices_);
+    choice()->setSelected(selected);
 }
 
 void IniEditorField::setMarked(bool marked) {
@@ -103,9 +115,9 @@ void IniEditorField::setValue(const std::wstring& value) {
     }
     if (row_.type != Type::ONE_OF)
         return element_->setText(value.c_str());
-    for (irr::u32 i = 0; i < choice()->getItemCount(); ++i)
-        if (value == choice()->getItem(i))
-            choice()->setSelected(static_cast<irr::s32>(i));
+    const auto chosen = std::find(choices_.begin(), choices_.end(), value);
+    if (chosen != choices_.end())
+        choice()->setSelected(static_cast<irr::s32>(chosen - choices_.begin()));
 }
 
 std::wstring IniEditorField::getValue() const {
@@ -120,7 +132,7 @@ std::wstring IniEditorField::getValue() const {
     if (row_.type != Type::ONE_OF)
         return element_->getText();
     const irr::s32 selected = choice()->getSelected();
-    return selected < 0 ? std::wstring() : choice()->getItem(static_cast<irr::u32>(selected));
+    return selected < 0 ? std::wstring() : choices_[static_cast<std::size_t>(selected)];
 }
 
 } // namespace skyvane

@@ -5,6 +5,7 @@
 
 #include <irrlicht.h>
 #include <string>
+#include <vector>
 
 namespace skyvane {
 
@@ -16,6 +17,8 @@ public:
 
     void setValue(const std::wstring& value);
     std::wstring getValue() const;
+    /// Ends choices in dots that are too long for their place, which the control has by now. The value stays whole.
+    void fitChoices(irr::gui::IGUISkin& skin);
     /// Whether the value has the form of the row's type.
     bool isRight() const { return isCorrectType(getValue(), row_.type); }
     /// Whether "Ok" writes the value.
@@ -42,6 +45,7 @@ private:
     irr::gui::IGUICheckBox* check() const { return static_cast<irr::gui::IGUICheckBox*>(element_.get()); }
 
     EditorRow row_;
+    std::vector<std::wstring> choices_; ///< Of a ONE_OF row, as they stand in the document.
     irr::video::SColor color_{0xff000000};
     EngineRef<irr::gui::IGUIElement> element_;
     EngineRef<irr::gui::IGUIStaticText> label_;
