@@ -41,6 +41,8 @@ bool LoadSaveSettingsDialog::run() {
     loop.run([this] { return open_; });
     rows_.clear();
     gui_.reset();
+    list_ = formerList_ = {};
+    bar_ = nullptr;
     removeWindow(window_);
     return done_;
 }

@@ -15,6 +15,7 @@ class AggregateGUIElement;
 class Context;
 class IniFile;
 class LoadSaveSettingsDialog;
+class ScrollBar;
 
 /// Reads what was chosen from the document, or writes what shall be saved into it.
 class ILoadSaveSettingsCallback {
@@ -99,7 +100,8 @@ private:
     std::unique_ptr<GUI> gui_;
     EngineRef<AggregateGUIElement> list_;
     EngineRef<AggregateGUIElement> formerList_; ///< So that no new row stands where one of a waiting event stood.
-    irr::gui::IGUIElement* bar_ = nullptr;
+    ScrollBar* bar_ = nullptr;
+    std::string shownFolder_; ///< Whose list is on the screen: it keeps its place when something in it changes.
     bool saving_ = false;
     bool open_ = false;
     bool done_ = false;

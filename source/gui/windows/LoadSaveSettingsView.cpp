@@ -43,6 +43,8 @@ void LoadSaveSettingsDialog::show() {
         chosen_.clear();
     const std::wstring place = folder_.empty() ? L"" : L"  /  " + decodeUtf8(folder_.substr(0, folder_.size() - 1));
     showText(element("ttitle"), (options_.title + place).c_str());
+    const float scrolledTo = bar_ && shownFolder_ == folder_ ? bar_->getPos() : 0.0f;
+    shownFolder_ = folder_;
     rows_.clear();
     formerList_ = list_;
     if (list_)
@@ -63,6 +65,7 @@ void LoadSaveSettingsDialog::show() {
     bar->linkToScrollable(list_.get());
     bar->setVisible(list_->canScroll());
     bar->drop();
+    list_->setScrollShare(scrolledTo);
     bar_ = bar;
     element("bload")->setEnabled(!chosen_.empty());
     element("bdeleteall")->setEnabled(!library_.list(folder_).empty());
