@@ -2,7 +2,7 @@
 import time
 
 from cockpit import Cockpit
-from glass import Glass
+from glass import RED, Glass
 from test_start import read_ini
 
 SIZE = (1280, 720)
@@ -34,6 +34,9 @@ def test_the_sensor_setup_changes_the_document_on_ok_only(build):
     with Cockpit(build, CONFIG, size=SIZE) as cockpit:
         open_setup(cockpit)
         cockpit.save(cockpit.look(), 'sensor-setup')
+        cockpit.key('XF86_Back')
+        cockpit.wait(lambda: not Glass(cockpit).coloured(RED), 10, 'the screen to go')
+        Glass(cockpit).open('Change Sensors')
         click(cockpit, 0.17, 0.785)  # Use, the one in use
         click(cockpit, 0.11, 0.93)  # Cancel
         assert config(cockpit)['']['SensorCount'] == '3'

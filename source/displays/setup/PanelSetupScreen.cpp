@@ -10,10 +10,10 @@
 #include "displays/setup/PanelSetupPreview.h"
 #include "displays/setup/SetupDocuments.h"
 #include "gui/skin/Skin.h"
-#include "gui/windows/CMBox.h"
 #include "gui/windows/Help.h"
 #include "gui/windows/LayoutDocuments.h"
 #include "gui/windows/ListRows.h"
+#include "gui/windows/Questions.h"
 #include "gui/windows/WindowTools.h"
 
 #include <algorithm>
@@ -98,7 +98,7 @@ void PanelSetupScreen::add() {
     if (row < 0 || row >= static_cast<int>(factoryRows_.size()))
         return;
     if (arrangement_.isFull())
-        return tell(L"There are as many panels as Skyvane can load. Please remove one first.");
+        return tellInBox(*context_, L"There are as many panels as Skyvane can load. Please remove one first.");
     const int index = factoryRows_[static_cast<size_t>(row)];
     IPanelFactory* factory = context_->getPanelManager()->getPanelFactory(index);
     const std::string section = arrangement_.beginNew(index, factory->getName());
@@ -135,11 +135,7 @@ void PanelSetupScreen::accept() {
         return;
     }
     logText("The panels could not be saved to " + path + "\n");
-    tell((L"The panels could not be saved to " + decodeUtf8(path) + L".").c_str());
-}
-
-void PanelSetupScreen::tell(const wchar_t* text) const {
-    (new CMBox(environment_, nullptr, text, L"Ok", L""))->drop();
+    tellInBox(*context_, L"The panels could not be saved to " + decodeUtf8(path) + L".");
 }
 
 void PanelSetupScreen::listFactories() {

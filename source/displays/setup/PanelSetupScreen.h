@@ -62,7 +62,6 @@ private:
     void refresh();
     void refreshPanels();
     void refreshButtons();
-    void tell(const wchar_t* text) const;
 
     Context* context_;
     irr::gui::IGUIEnvironment* environment_;

@@ -2,7 +2,7 @@
 
 #include "core/Context.h"
 #include "core/ModalLoop.h"
-#include "core/events/EventReceiver.h"
+#include "gui/windows/BackButton.h"
 #include "gui/windows/Help.h"
 #include "gui/windows/WindowTools.h"
 
@@ -25,24 +25,20 @@ void ColorSelector::select(bool withAlpha) {
     answer_ = ColorWindow::Answer::None;
     window_ = std::make_unique<ColorWindow>(context_->getIrrlichtDevice()->getGUIEnvironment(), color_, withAlpha);
     prepareHelpButton(context_, window_->getHelpButton(), helpPage);
-    irr::gui::IGUIElement* former = context_->getEvents()->getBackButton();
-    context_->getEvents()->setBackButton(window_->getCancelButton());
+    const BackButton back(context_->getEvents(), window_->getCancelButton());
     ModalLoop loop(*context_->getFrames(), {[this](const irr::SEvent& event) { onEvent(event); }});
     loop.run([this] { return answer_ == ColorWindow::Answer::None; });
     success_ = answer_ == ColorWindow::Answer::Ok;
     if (success_)
         color_ = window_->getColor();
     window_.reset();
-    context_->getEvents()->setBackButton(former);
 }
 
 void ColorSelector::onEvent(const irr::SEvent& event) {
     if (answer_ == ColorWindow::Answer::None)
         answer_ = window_->processEvent(event);
-    if (!isClickOf(event, window_->getHelpButton()))
-        return;
-    showHelp(context_, helpPage);
-    context_->getEvents()->setBackButton(window_->getCancelButton());
+    if (isClickOf(event, window_->getHelpButton()))
+        showHelp(context_, helpPage);
 }
 
 } // namespace skyvane

@@ -2,7 +2,7 @@
 
 #include "core/Context.h"
 #include "core/ModalLoop.h"
-#include "core/events/EventReceiver.h"
+#include "gui/windows/BackButton.h"
 #include "gui/windows/ChooseFromListDialog.h"
 #include "gui/windows/WindowTools.h"
 
@@ -11,8 +11,7 @@ namespace skyvane {
 int chooseOne(Context& context, const std::vector<std::wstring>& labels, const std::wstring& title) {
     std::vector<irr::gui::IGUIButton*> buttons;
     irr::gui::IGUIWindow* window = createChooseFromListDialog(context.getIrrlichtDevice(), buttons, {}, labels, title);
-    irr::gui::IGUIElement* former = context.getEvents()->getBackButton();
-    context.getEvents()->setBackButton(buttons.empty() ? nullptr : buttons.back());
+    const BackButton back(context.getEvents(), buttons.empty() ? nullptr : buttons.back());
     int chosen = -1;
     ModalLoop loop(*context.getFrames(), {[&](const irr::SEvent& event) {
         for (size_t i = 0; i < buttons.size(); ++i)
@@ -20,7 +19,6 @@ int chooseOne(Context& context, const std::vector<std::wstring>& labels, const s
                 chosen = static_cast<int>(i);
     }});
     loop.run([&chosen] { return chosen < 0; });
-    context.getEvents()->setBackButton(former);
     removeWindow(window);
     return chosen;
 }

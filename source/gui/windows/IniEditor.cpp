@@ -2,7 +2,6 @@
 
 #include "core/Context.h"
 #include "core/ModalLoop.h"
-#include "core/events/EventReceiver.h"
 #include "core/ini/IniFile.h"
 #include "core/text/Utf8.h"
 #include "gui/elements/AggregatableGUIElementAdapter.h"
@@ -105,7 +104,7 @@ void IniEditor::init() {
         prepareHelpButton(context_, help_, helpFile_.c_str());
     }
     ok_ = addButton(L"Ok", "greenNormal", 1.0);
-    context_->getEvents()->setBackButton(cancel_);
+    back_.emplace(context_->getEvents(), cancel_);
 }
 
 /// At a share of the way from the left end of the bottom line to its right end.
@@ -136,9 +135,9 @@ void IniEditor::createGUI() {
     AggregateGUIElement::Options options = layoutOf(1.0f, false);
     options.scrollable = true;
     pane_ = new AggregateGUIElement(environment_, options, rows, {}, window_, pane);
+    pane_->drop();
     for (const auto& field : fields_)
         field->fitChoices(*environment_->getSkin());
-    pane_->drop();
     if (pane_->canScroll())
         addScrollBar(
             {pane.LowerRightCorner.X, pane.UpperLeftCorner.Y, pane.LowerRightCorner.X + bar, pane.LowerRightCorner.Y});
@@ -158,7 +157,7 @@ void IniEditor::processEvent(const irr::SEvent& event) {
     else if (isClickOf(event, cancel_))
         removeGUI();
     else if (isClickOf(event, help_))
-        openHelp();
+        showHelp(context_, helpFile_.c_str());
     else
         for (const auto& field : fields_)
             if (field->isColor() && isClickOf(event, field->getElement()))
@@ -170,12 +169,6 @@ void IniEditor::chooseColor(IniEditorField& field) {
     selector.select(field.hasAlpha());
     if (selector.lastSuccess())
         field.setColor(selector.getColor());
-    context_->getEvents()->setBackButton(cancel_);
-}
-
-void IniEditor::openHelp() {
-    showHelp(context_, helpFile_.c_str());
-    context_->getEvents()->setBackButton(cancel_);
 }
 
 /// A wrong value that became right while it is typed.
@@ -211,6 +204,7 @@ void IniEditor::accept() {
 
 void IniEditor::removeGUI() {
     fields_.clear();
+    back_.reset();
     removeWindow(window_);
     window_ = nullptr;
     pane_ = nullptr;

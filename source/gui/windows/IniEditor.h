@@ -1,9 +1,11 @@
 #pragma once
 
 #include "gui/layout/EditorSchema.h"
+#include "gui/windows/BackButton.h"
 
 #include <irrlicht.h>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -53,7 +55,6 @@ private:
     IniEditorField* markWrongFields();
     void unmarkRighted(const irr::gui::IGUIElement* element);
     void accept();
-    void openHelp();
     void chooseColor(IniEditorField& field);
     void removeGUI();
 
@@ -69,6 +70,7 @@ private:
     irr::gui::IGUIButton* ok_ = nullptr;
     irr::gui::IGUIButton* help_ = nullptr;
     irr::gui::IGUIButton* cancel_ = nullptr;
+    std::optional<BackButton> back_; ///< While the dialog is open.
 };
 
 } // namespace skyvane

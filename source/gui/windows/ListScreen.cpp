@@ -2,9 +2,9 @@
 
 #include "core/Context.h"
 #include "core/ModalLoop.h"
-#include "core/events/EventReceiver.h"
 #include "core/text/Utf8.h"
 #include "gui/skin/Skin.h"
+#include "gui/windows/BackButton.h"
 #include "gui/windows/Help.h"
 #include "gui/windows/LayoutDocuments.h"
 #include "gui/windows/ListRows.h"
@@ -34,11 +34,10 @@ ListScreen::~ListScreen() {
 
 void ListScreen::run() {
     open_ = true;
-    context_.getEvents()->setBackButton(element("bcancel"));
+    const BackButton back(context_.getEvents(), element("bcancel"));
     ModalLoop loop(*context_.getFrames(),
                    {[this](const irr::SEvent& event) { onEvent(event); }, ModalFrame::Backdrop::Grey});
     loop.run([this] { return open_; });
-    context_.getEvents()->setBackButton(nullptr);
 }
 
 void ListScreen::refresh(int selected) {
@@ -78,8 +77,6 @@ void ListScreen::onClick(const irr::SEvent& event) {
         onMore(selected);
     else if (selected >= 0 && isClickOf(event, element("bdelete")))
         onDelete(selected);
-    // What a button opened has put its own in this place.
-    context_.getEvents()->setBackButton(element("bcancel"));
 }
 
 } // namespace skyvane

@@ -2,11 +2,11 @@
 
 #include "core/Context.h"
 #include "core/ModalLoop.h"
-#include "core/events/EventReceiver.h"
 #include "core/files/SafeFile.h"
 #include "core/ini/IniFile.h"
 #include "core/text/Utf8.h"
 #include "gui/elements/AggregateGUIElement.h"
+#include "gui/windows/BackButton.h"
 #include "gui/windows/Questions.h"
 #include "gui/windows/WindowTools.h"
 
@@ -37,12 +37,13 @@ bool LoadSaveSettingsDialog::run() {
     done_ = false;
     build();
     show();
+    const BackButton back(context_->getEvents(), element("bcancel"));
     ModalLoop loop(*context_->getFrames(), {[this](const irr::SEvent& event) { onEvent(event); }});
     loop.run([this] { return open_; });
     rows_.clear();
-    gui_.reset();
     list_ = formerList_ = {};
     bar_ = nullptr;
+    gui_.reset();
     removeWindow(window_);
     return done_;
 }

@@ -1,5 +1,4 @@
 #include "core/Context.h"
-#include "core/events/EventReceiver.h"
 #include "core/ini/IniFile.h"
 #include "core/text/Utf8.h"
 #include "gui/elements/AggregatableGUIElementAdapter.h"
@@ -43,9 +42,9 @@ void LoadSaveSettingsDialog::show() {
         chosen_.clear();
     const std::wstring place = folder_.empty() ? L"" : L"  /  " + decodeUtf8(folder_.substr(0, folder_.size() - 1));
     showText(element("ttitle"), (options_.title + place).c_str());
+    rows_.clear();
     const float scrolledTo = bar_ && shownFolder_ == folder_ ? bar_->getPos() : 0.0f;
     shownFolder_ = folder_;
-    rows_.clear();
     formerList_ = list_;
     if (list_)
         removeWindow(list_.get());
@@ -65,12 +64,11 @@ void LoadSaveSettingsDialog::show() {
     bar->linkToScrollable(list_.get());
     bar->setVisible(list_->canScroll());
     bar->drop();
-    list_->setScrollShare(scrolledTo);
     bar_ = bar;
+    list_->setScrollShare(scrolledTo);
     element("bload")->setEnabled(!chosen_.empty());
     element("bdeleteall")->setEnabled(!library_.list(folder_).empty());
     element("bexport")->setEnabled(library_.count("") > 0);
-    context_->getEvents()->setBackButton(gui_->get<irr::gui::IGUIButton>("bcancel"));
 }
 
 void LoadSaveSettingsDialog::addRows(int rowHeight, float viewHeight) {

@@ -3,7 +3,7 @@
 #include "core/Context.h"
 #include "core/ModalLoop.h"
 #include "core/engine/EngineRef.h"
-#include "core/events/EventReceiver.h"
+#include "gui/windows/BackButton.h"
 #include "gui/windows/CMBox.h"
 #include "gui/windows/EditBoxDialog.h"
 #include "gui/windows/WindowTools.h"
@@ -50,27 +50,10 @@ private:
     std::optional<std::wstring> text_;
 };
 
-/// The back key gives the answer that changes nothing; afterwards it belongs to who had it before. Its click reaches
-/// only the queue of events.
-class BackButton {
-public:
-    BackButton(Context& context, irr::gui::IGUIElement* button)
-        : events_(context.getEvents()), former_(events_->getBackButton()) {
-        events_->setBackButton(button);
-    }
-    ~BackButton() { events_->setBackButton(former_); }
-    BackButton(const BackButton&) = delete;
-    BackButton& operator=(const BackButton&) = delete;
-
-private:
-    EventReceiver* events_;
-    irr::gui::IGUIElement* former_;
-};
-
-/// Frames until the dialog, which the GUI holds, has its answer.
+/// Frames until the dialog, which the GUI holds, has its answer. The back key gives the one that changes nothing.
 template <class Dialog, class IsOpen>
 void waitFor(Context& context, Dialog& dialog, irr::gui::IGUIButton* back, const IsOpen& isOpen) {
-    const BackButton backButton(context, back);
+    const BackButton backButton(context.getEvents(), back);
     ModalLoop loop(*context.getFrames(), {[&](const irr::SEvent& event) {
         if (isOpen() && isClickOf(event, back))
             dialog.OnEvent(event);

@@ -2,9 +2,9 @@
 
 #include "core/Context.h"
 #include "core/ModalLoop.h"
-#include "core/events/EventReceiver.h"
 #include "core/text/Utf8.h"
 #include "gui/skin/Skin.h"
+#include "gui/windows/BackButton.h"
 #include "gui/windows/LayoutDocuments.h"
 #include "gui/windows/WindowTools.h"
 #include "procedures/aircraft/AircraftDocuments.h"
@@ -57,7 +57,7 @@ CheckListDialog::~CheckListDialog() {
 bool CheckListDialog::run(CheckList& list) {
     element("ename")->setText(decodeUtf8(list.name).c_str());
     element("elines")->setText(shownLines(list).c_str());
-    context_.getEvents()->setBackButton(element("bcancel"));
+    const BackButton back(context_.getEvents(), element("bcancel"));
     enum { Open, Cancelled, Accepted } state = Open;
     ModalLoop loop(*context_.getFrames(), {[&](const irr::SEvent& event) {
                                                if (isClickOf(event, element("bok")))

@@ -3,9 +3,9 @@
 #include "core/Context.h"
 #include "core/ModalLoop.h"
 #include "core/engine/ShowState.h"
-#include "core/events/EventReceiver.h"
 #include "core/text/Utf8.h"
 #include "gui/skin/Skin.h"
+#include "gui/windows/BackButton.h"
 #include "gui/windows/Help.h"
 #include "gui/windows/LayoutDocuments.h"
 #include "gui/windows/ListRows.h"
@@ -72,6 +72,7 @@ bool SensorSetup::run(IniFile* document) {
     open_ = true;
     build();
     show();
+    const BackButton back(context_->getEvents(), gui_->getElement("bcancel"));
     ModalLoop loop(*context_->getFrames(), {[this](const irr::SEvent& event) { onEvent(event); }});
     loop.run([this] { return open_; });
     gui_.reset();
@@ -123,7 +124,6 @@ void SensorSetup::onEvent(const irr::SEvent& event) {
     for (const Action& action : actions)
         if (isClickOf(event, gui_->getElement(action.button))) {
             (this->*action.run)();
-            context_->getEvents()->setBackButton(get<irr::gui::IGUIButton>("bcancel"));
             return open_ ? show() : void();
         }
 }
