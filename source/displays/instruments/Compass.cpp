@@ -50,11 +50,11 @@ void Compass::render(irr::core::rect<int> rect) {
         drawer_->drawOutline(rect, *outline_);
 }
 
+/// None without a plan, and while nobody knows it: without a position the mark would stand near north.
 std::optional<double> Compass::procedureBearing() const {
-    IProcedure* procedure = context_->getCurrentProcedure();
-    if (!procedure || procedure->getType() == IProcedure::None)
-        return std::nullopt;
-    return procedure->getBearing();
+    const IProcedure* procedure = context_->getCurrentProcedure();
+    const double bearing = procedure ? procedure->getBearing() : -1.0;
+    return bearing >= 0.0 ? std::optional<double>(bearing) : std::nullopt;
 }
 
 void Compass::drawBugs(const DialFrame& frame) {

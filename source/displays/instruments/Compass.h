@@ -26,7 +26,7 @@ protected:
 
 private:
     void drawBugs(const DialFrame& frame);
-    /// Degrees true that the procedure in force leads along; none without a procedure.
+    /// Degrees true to the next point of the procedure in force; none without one, or without a position.
     std::optional<double> procedureBearing() const;
 
     PanelTexture card_;

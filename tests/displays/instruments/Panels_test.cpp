@@ -4,6 +4,7 @@
 #include "displays/IPanelFactory.h"
 #include "displays/PanelManager.h"
 #include "displays/drawing/Drawer2D.h"
+#include "procedures/ProcedureManager.h"
 #include "procedures/aircraft/AircraftManager.h"
 #include "sensors/SensorFakes.h"
 #include "sensors/records/Acceleration_Data.h"
@@ -21,6 +22,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <limits>
 #include <stdlib.h>
 
 namespace skyvane {
@@ -30,6 +32,7 @@ using irr::core::rect;
 
 enum Place {
     Turn = 1,
+    Heading = 5,
     Field = 6,
     Lamp = 7,
     Slip = 10,
@@ -188,6 +191,39 @@ TEST_F(PanelsTest, theSlipMarkerGoesToTheSideOfTheBall) {
     sensor->put<Acceleration_Data>(ISensorData::Acceleration, -8.0, -6.0, 0.0, 1u);
     frame();
     EXPECT_EQ(share(around, isWhite), 0.0);
+}
+
+/// Leads east from 50 N 10 E.
+class EastProcedure : public IProcedure {
+public:
+    EastProcedure() : IProcedure(nullptr) {
+        CourseList list(2);
+        list.front().position = {10.0, 50.0};
+        list.back().position = {11.0, 50.0};
+        setCourseList(list);
+    }
+    void calculateCourseList(ChartPosition, double, double) override {}
+    std::string getName() override { return "East"; }
+    Type getType() override { return Direct; }
+};
+
+TEST_F(PanelsTest, theBearingOfThePlanIsMarkedOnlyWhereItIsKnown) {
+    const rect<int> area(0, 0, 160, 160);
+    const auto isMagenta = [](irr::video::SColor c) {
+        return c.getRed() > 200 && c.getBlue() > 200 && c.getGreen() < 130;
+    };
+    add(Heading, area);
+    sensor->put<Heading_Data>(ISensorData::Heading, 0.0, 1u);
+    context->getProcedureManager()->addProcedure(std::make_unique<EastProcedure>());
+    IProcedure* procedure = context->getCurrentProcedure();
+    frame();
+    EXPECT_EQ(0.0, share(area, isMagenta)) << "nobody has told a position yet";
+    procedure->updatePosRelated({10.0, 50.0}, 1000.0, 90.0, 0.0);
+    frame("bearing.png");
+    EXPECT_GT(share({130, 60, 160, 100}, isMagenta), 0.02);
+    procedure->updatePosRelated({}, std::numeric_limits<double>::quiet_NaN(), 0.0, 0.0);
+    frame();
+    EXPECT_EQ(0.0, share(area, isMagenta)) << "the position is lost";
 }
 
 TEST_F(PanelsTest, theBatteryFillsFromTheLeftInItsColour) {
