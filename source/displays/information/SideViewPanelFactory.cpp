@@ -6,7 +6,7 @@
 namespace skyvane {
 
 SideViewPanelFactory::SideViewPanelFactory(Context* context)
-    : DialFactory(context, "SideViewPanel", "media/sidePanel.png", sideViewPanelOptions) {}
+    : DialFactory(context, "SideViewPanel", "media/sidePanel.png", sideViewPanelOptions, "SideView.hti") {}
 
 void SideViewPanelFactory::loadSetupFromIni(IniFile* ini, std::string section) {
     settings_ = SideViewSettings::read(*ini, section);

@@ -12,7 +12,7 @@ namespace skyvane {
 class OneSegmentPanelFactory : public DialFactory {
 public:
     explicit OneSegmentPanelFactory(Context* context)
-        : DialFactory(context, "OneSegmentPanel", "", oneSegmentPanelOptions) {}
+        : DialFactory(context, "OneSegmentPanel", "", oneSegmentPanelOptions, "ValueFields.hti") {}
     void loadSetupFromIni(IniFile* ini, std::string section) override;
     std::unique_ptr<IPanel> Create() override;
     /// A field with its label and figures that nobody takes for a value.

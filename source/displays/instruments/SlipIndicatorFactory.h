@@ -9,7 +9,8 @@ namespace skyvane {
 class SlipIndicatorFactory : public DialFactory {
 public:
     explicit SlipIndicatorFactory(Context* context)
-        : DialFactory(context, "Slip/Skid Indicator", "media/slip_preview.png", slipIndicatorOptions) {}
+        : DialFactory(context, "Slip/Skid Indicator", "media/slip_preview.png", slipIndicatorOptions,
+                      "ValueFields.hti") {}
     void loadSetupFromIni(IniFile* ini, std::string section) override;
     std::unique_ptr<IPanel> Create() override { return make<SlipIndicator>(style_); }
 

@@ -9,7 +9,7 @@ namespace skyvane {
 class TurnRateIndicatorFactory : public DialFactory {
 public:
     explicit TurnRateIndicatorFactory(Context* context)
-        : DialFactory(context, "TurnCoordinator", "media/turn_preview.png", turnRateIndicatorOptions) {}
+        : DialFactory(context, "TurnCoordinator", "media/turn_preview.png", turnRateIndicatorOptions, "Dials.hti") {}
     void loadSetupFromIni(IniFile* ini, std::string section) override;
     std::unique_ptr<IPanel> Create() override { return make<TurnRateIndicator>(drawText_); }
 

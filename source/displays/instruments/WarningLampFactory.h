@@ -10,7 +10,8 @@ namespace skyvane {
 
 class WarningLampFactory : public DialFactory {
 public:
-    explicit WarningLampFactory(Context* context) : DialFactory(context, "WarningLamp", "", warningLampOptions) {}
+    explicit WarningLampFactory(Context* context)
+        : DialFactory(context, "WarningLamp", "", warningLampOptions, "ValueFields.hti") {}
     void loadSetupFromIni(IniFile* ini, std::string section) override;
     std::unique_ptr<IPanel> Create() override { return make<WarningLamp>(type_); }
     void renderPreview(irr::core::rect<int> rect) override;

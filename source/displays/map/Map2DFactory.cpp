@@ -14,7 +14,8 @@ constexpr double middleAcross = 0.62, middleDown = 0.68;
 
 } // namespace
 
-Map2DFactory::Map2DFactory(Context* context) : DialFactory(context, "2D-Map", "media/map_preview.png", map2DOptions) {}
+Map2DFactory::Map2DFactory(Context* context)
+    : DialFactory(context, "2D-Map", "media/map_preview.png", map2DOptions, "Map2DOptions.hti") {}
 
 irr::core::rect<int> Map2DFactory::previewRect(const irr::core::rect<int>& rect) const {
     const int side = std::max(rect.getWidth(), rect.getHeight());

@@ -6,7 +6,7 @@
 namespace skyvane {
 
 Map3DFactory::Map3DFactory(Context* context)
-    : DialFactory(context, "3D-Map", "media/map3d_preview.png", visionSchema) {}
+    : DialFactory(context, "3D-Map", "media/map3d_preview.png", visionSchema, "Map3DOptions.hti") {}
 
 void Map3DFactory::loadSetupFromIni(IniFile* ini, std::string section) {
     settings_ = VisionSettings::read(*ini, section);
