@@ -45,6 +45,14 @@ vector2d<float> cornerOf(const rect<irr::s32>& area) {
     return {static_cast<float>(area.UpperLeftCorner.X), static_cast<float>(area.UpperLeftCorner.Y)};
 }
 
+/// How much smaller a text must be drawn for its place. Below the least share it couldn't be read: then it is cut.
+float shareThatFits(irr::u32 width, int room) {
+    constexpr float leastShare = 0.5f, clearOfRim = 0.95f;
+    if (room <= 0 || width <= static_cast<irr::u32>(room))
+        return 1.0f;
+    return std::max(leastShare, clearOfRim * static_cast<float>(room) / static_cast<float>(width));
+}
+
 /// Where a text of this length starts in a room, left or centred.
 int startInRoom(int room, irr::u32 length, bool centered) {
     return centered ? (room - static_cast<int>(length)) / 2 : 0;
@@ -65,7 +73,9 @@ void FlexibleFont::draw(const irr::core::stringw& text, const rect<irr::s32>& po
         return;
     const TextMesh::Look look{tabSize_, italicGradient_, materialType_, hcenter};
     const TextMesh& mesh = cache_->get(*this, text.c_str(), text.size(), look, color);
-    drawFontMeshBuffer(mesh.getMesh(), mesh.getDimension(scale_), position, hcenter, vcenter, clip);
+    const float share = vcenter ? shareThatFits(mesh.getDimension(scale_).Width, position.getWidth()) : 1.0f;
+    const vector2d<float> scale = scale_ * share;
+    drawAtScale(mesh.getMesh(), mesh.getDimension(scale), scale, position, hcenter, vcenter, clip);
 }
 
 unsigned long FlexibleFont::getDrawRebuilds() const {
@@ -148,6 +158,12 @@ FlexibleFont::DrawStyle FlexibleFont::getDefaultStyle() const {
 void FlexibleFont::drawFontMeshBuffer(const IMeshBuffer* mesh, const dimension2d<irr::u32>& dimension,
                                       const rect<irr::s32>& area, bool hcenter, bool vcenter,
                                       const rect<irr::s32>* clip) {
+    drawAtScale(mesh, dimension, scale_, area, hcenter, vcenter, clip);
+}
+
+void FlexibleFont::drawAtScale(const IMeshBuffer* mesh, const dimension2d<irr::u32>& dimension,
+                               const vector2d<float>& scale, const rect<irr::s32>& area, bool hcenter, bool vcenter,
+                               const rect<irr::s32>* clip) {
     if (isEmpty(area))
         return;
     rect<irr::s32> visible = area;
@@ -155,7 +171,7 @@ void FlexibleFont::drawFontMeshBuffer(const IMeshBuffer* mesh, const dimension2d
     if (clip)
         visible.clipAgainst(*clip);
     Placement placement;
-    placement.scale = scale_;
+    placement.scale = scale;
     placement.translation = cornerOf(area) - cornerOf(visible);
     placement.translation.X += static_cast<float>(startInRoom(area.getWidth(), dimension.Width, hcenter));
     placement.translation.Y += static_cast<float>(startInRoom(area.getHeight(), dimension.Height, vcenter));

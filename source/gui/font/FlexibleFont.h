@@ -48,6 +48,8 @@ public:
     ~FlexibleFont() override;
 
     // irr::gui::IGUIFont
+    /// A text that is centred from top to bottom stands alone, as on a button: where it is too wide it is drawn
+    /// smaller, as far as it can be read.
     void draw(const irr::core::stringw& text, const irr::core::rect<irr::s32>& position, irr::video::SColor color,
               bool hcenter = false, bool vcenter = false, const irr::core::rect<irr::s32>* clip = nullptr) override;
     irr::core::dimension2d<irr::u32> getDimension(const wchar_t* text) const override;
@@ -123,6 +125,9 @@ public:
     unsigned long getLayouts() const { return layouts_; }
 
 private:
+    void drawAtScale(const irr::scene::IMeshBuffer* mesh, const irr::core::dimension2d<irr::u32>& dimension,
+                     const irr::core::vector2d<float>& scale, const irr::core::rect<irr::s32>& rect, bool hcenter,
+                     bool vcenter, const irr::core::rect<irr::s32>* clip);
     void setMaterial(irr::video::SMaterial& material, irr::video::E_MATERIAL_TYPE type, bool bilinear) const;
     void setTransforms(const irr::core::rect<irr::s32>& viewPort, const Placement& placement);
     void setShaderState(const DrawStyle& style, const irr::core::vector2d<float>& scale) const;

@@ -133,6 +133,17 @@ TEST_F(FlexibleFontTest, neverDrawsBeyondRectangleClipOrTarget) {
     EXPECT_TRUE(isBlank(draw([&] { font->draw(L"H", Rect(20, 10, 60, 60), white, false, false, &elsewhere); })));
 }
 
+TEST_F(FlexibleFontTest, aLabelThatIsTooWideIsDrawnSmallerBeforeItIsCut) {
+    const int whole = static_cast<int>(font->getDimension(L"HHHH").Width);
+    const Rect place(10, 10, 10 + whole * 3 / 4, 110);
+    const Rect ink = draw([&] { font->draw(L"HHHH", place, white, true, true); });
+    EXPECT_GT(ink.UpperLeftCorner.X, place.UpperLeftCorner.X);
+    EXPECT_LT(ink.LowerRightCorner.X, place.LowerRightCorner.X);
+    EXPECT_NEAR(ink.getCenter().Y, place.getCenter().Y, 3);
+    const Rect narrow(10, 10, 10 + whole / 3, 110); // smaller letters than that can't be read
+    EXPECT_GE(draw([&] { font->draw(L"HHHH", narrow, white, true, true); }).getWidth(), narrow.getWidth() - 1);
+}
+
 TEST_F(FlexibleFontTest, turnsCounterClockwiseAboutThePivot) {
     CachedText text;
     text.set(font, L"HHHH", white);
