@@ -8,12 +8,15 @@
 #include "gui/elements/AggregateGUIElement.h"
 #include "gui/elements/ColorSelector.h"
 #include "gui/elements/ScrollBar.h"
+#include "gui/font/MakeWordWrappedText.h"
 #include "gui/layout/EditorValues.h"
 #include "gui/skin/Skin.h"
 #include "gui/windows/GUI.h"
 #include "gui/windows/Help.h"
 #include "gui/windows/IniEditorField.h"
 #include "gui/windows/WindowTools.h"
+
+#include <algorithm>
 
 namespace skyvane {
 namespace {
@@ -122,15 +125,17 @@ irr::gui::IGUIButton* IniEditor::addButton(const wchar_t* label, const char* sty
 
 void IniEditor::createGUI() {
     const Rect area = windowArea(window_);
-    const int rowHeight = context_->getRecommendedButtonHeight() * 3 / 2;
+    const int standardRow = context_->getRecommendedButtonHeight() * 3 / 2;
     const int bar = environment_->getSkin()->getSize(irr::gui::EGDS_SCROLLBAR_SIZE);
-    const Rect pane(rowHeight / 6, rowHeight, area.getWidth() - rowHeight / 6 - bar, area.getHeight() - rowHeight);
+    const Rect pane(standardRow / 6, standardRow, area.getWidth() - standardRow / 6 - bar,
+                    area.getHeight() - standardRow);
     const float labelShare = context_->isPortrait() ? 0.56f : 0.44f; // a narrow screen has less room for long labels
+    const float share = static_cast<float>(rowHeight(static_cast<int>(labelShare * pane.getWidth()))) /
+                        static_cast<float>(pane.getHeight());
     AggregateGUIElement::Elements rows;
     for (const EditorRow& row : rows_) {
         fields_.push_back(std::make_unique<IniEditorField>(environment_, row));
-        rows.push_back(makeRow(environment_, *fields_.back(),
-                               static_cast<float>(rowHeight) / static_cast<float>(pane.getHeight()), labelShare));
+        rows.push_back(makeRow(environment_, *fields_.back(), share, labelShare));
     }
     AggregateGUIElement::Options options = layoutOf(1.0f, false);
     options.scrollable = true;
@@ -141,6 +146,18 @@ void IniEditor::createGUI() {
     if (pane_->canScroll())
         addScrollBar(
             {pane.LowerRightCorner.X, pane.UpperLeftCorner.Y, pane.LowerRightCorner.X + bar, pane.LowerRightCorner.Y});
+}
+
+/// One and a half buttons, or more where the pilot's letters are so large that a label would be cut.
+int IniEditor::rowHeight(int labelWidth) const {
+    irr::gui::IGUIFont* font = environment_->getSkin()->getFont();
+    const int button = context_->getRecommendedButtonHeight();
+    int tallest = 0;
+    for (const EditorRow& row : rows_) {
+        const std::wstring label = makeWordWrappedText(row.label, static_cast<unsigned>(std::max(labelWidth, 1)), font);
+        tallest = std::max(tallest, font ? static_cast<int>(font->getDimension(label.c_str()).Height) : 0);
+    }
+    return std::max(button * 3 / 2, tallest + button / 4);
 }
 
 void IniEditor::addScrollBar(const Rect& place) {

@@ -51,6 +51,7 @@ private:
     void init();
     irr::gui::IGUIButton* addButton(const wchar_t* label, const char* style, double place);
     void createGUI();
+    int rowHeight(int labelWidth) const;
     void addScrollBar(const irr::core::rect<irr::s32>& place);
     IniEditorField* markWrongFields();
     void unmarkRighted(const irr::gui::IGUIElement* element);
