@@ -58,10 +58,22 @@ bool NMEA_Parser::takesCount(size_t count, size_t least, size_t most) const {
 
 bool NMEA_Parser::accept(bool isValid) {
     const unsigned now = MilliSecs();
-    if (!isValid && TimeDiff(now, lastAcceptedMs_) < timeoutMs_)
+    const bool isLate = TimeDiff(now, lastAcceptedMs_) >= timeoutMs_;
+    if (!isValid && !isLate)
         return false;
+    if (isLate && timeoutMs_ > 0)
+        forget();
     lastAcceptedMs_ = now;
     return true;
+}
+
+/// The values stay, but each sentence has to say anew that they count.
+void NMEA_Parser::forget() {
+    gps_.fixQuality = 0;
+    gps_.fixType = 1;
+    gps_.status = 0;
+    gps_.timeAvailable = gps_.dateAvailable = gps_.positionAvailable = gps_.altitudeAvailable = false;
+    gps_.dilutionOfPrecisionAvailable = gps_.speedAvailable = gps_.groundTrackAvailable = false;
 }
 
 bool NMEA_Parser::parseGga() {

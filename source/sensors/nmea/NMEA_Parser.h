@@ -18,8 +18,9 @@ namespace skyvane {
 ///             use(parser.getGPSData());
 ///
 /// What a sentence says counts when it says that it is valid. One that isn't counts only when no sentence has counted
-/// for the acceptance time-out: a moment without a fix overwrites nothing, a loss is learned. A sentence that is broken
-/// costs itself only. Places that aren't on the earth and times that aren't of a day are taken for missing.
+/// for the acceptance time-out: a moment without a fix overwrites nothing, a loss is learned. What was told before such
+/// a silence doesn't count any more: a receiver that is back isn't where it was. A sentence that is broken costs itself
+/// only. Places that aren't on the earth and times that aren't of a day are taken for missing.
 /// One thread; after the first sentence it allocates nothing but what the additional parser is handed.
 class NMEA_Parser final : public IGPSParser {
 public:
@@ -44,6 +45,7 @@ private:
     bool takesTalker(std::string_view talker) const;
     bool takesCount(size_t count, size_t least, size_t most) const;
     bool accept(bool isValid);
+    void forget();
     bool parseGga();
     bool parseGsa();
     bool parseRmc();

@@ -2,6 +2,7 @@
 
 #include "NmeaText.h"
 #include "core/time/Time.h"
+#include "sensors/nmea/GpsTrust.h"
 #include "support/AllocationCounter.h"
 
 #include <gtest/gtest.h>
@@ -129,6 +130,16 @@ TEST_F(NMEA_ParserTest, aLossIsLearnedOnlyAfterTheTimeOut) {
     clock.advance(2.01);
     EXPECT_EQ(feed(nmea("GPRMC,123522,V,,,,,5.0,5.0,230394,,")), 1);
     EXPECT_TRUE(gps().status == 0 && !gps().speedAvailable && !gps().groundTrackAvailable);
+}
+
+TEST_F(NMEA_ParserTest, whatWasToldBeforeASilenceDoesNotCountAnyMore) {
+    feed(nmea(Gga) + nmea(Gsa) + nmea(Rmc));
+    EXPECT_EQ(gpsTrust(gps(), ISensorData::Position), ISensor::GOOD);
+    clock.advance(60.0);
+    EXPECT_EQ(feed(nmea(Gsa)), 1);
+    EXPECT_EQ(gpsTrust(gps(), ISensorData::Position), ISensor::WRONG) << "the place is a minute old";
+    feed(nmea(Gga) + nmea(Rmc));
+    EXPECT_EQ(gpsTrust(gps(), ISensorData::Position), ISensor::GOOD);
 }
 
 TEST_F(NMEA_ParserTest, eachVersionHasItsTalkersAndCounts) {
