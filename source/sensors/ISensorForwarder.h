@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sensors/records/ISensorData.h"
+
 #include <memory>
 #include <string>
 
@@ -7,6 +9,12 @@ namespace skyvane {
 
 class IniFile;
 class ISensor;
+
+/// A record of this type holds what came in this frame alone: it is passed on at once, whatever the period, as the next
+/// frame doesn't have it any more.
+inline bool isForOneFrame(ISensorData::Type type) {
+    return type == ISensorData::UATUplink;
+}
 
 /// Passes on what a sensor updated: to a log, to the network.
 class ISensorForwarder {

@@ -83,6 +83,19 @@ bool BindSocket(Socket* socket, int port) {
     return socket && socket->bind(port);
 }
 
+int GetSocketPort(const Socket* socket) {
+    const auto* bound = dynamic_cast<const IPSocket*>(socket);
+    return bound ? bound->getBoundPort() : -1;
+}
+
+IpAddress GetUDPSocketSender(const Socket* socket) {
+    if (const auto* udp = dynamic_cast<const IPv4UDPSocket*>(socket))
+        return udp->getLastDatagramAddress();
+    if (const auto* udp = dynamic_cast<const IPv6UDPSocket*>(socket))
+        return udp->getLastDatagramAddress();
+    return {};
+}
+
 bool SetSocketBuffer(Socket* socket, int sendBytes, int receiveBytes) {
     if (!socket || sendBytes < 0 || receiveBytes < 0)
         return false;

@@ -35,6 +35,10 @@ std::unique_ptr<Socket> CreateTCPSocketFromList(const std::list<IpAddress>& addr
 /// Where hlp_send goes. A numeric address of the socket's own version.
 bool SetUDPSocketTarget(Socket* socket, const std::string& address, int port);
 bool BindSocket(Socket* socket, int port);
+/// The port that a socket is bound to; -1 for none.
+int GetSocketPort(const Socket* socket);
+/// Who sent the last datagram; a bad address before the first.
+IpAddress GetUDPSocketSender(const Socket* socket);
 /// Sizes in bytes of what the system holds for the socket.
 bool SetSocketBuffer(Socket* socket, int sendBytes, int receiveBytes);
 /// True when a stream has been connected and takes bytes now.

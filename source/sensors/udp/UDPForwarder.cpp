@@ -4,6 +4,7 @@
 #include "core/time/Time.h"
 #include "sensors/ISensor.h"
 #include "sensors/ISensorHost.h"
+#include "sensors/udp/UDPSensor.h"
 
 #include <utility>
 
@@ -21,8 +22,11 @@ UDPForwarder::UDPForwarder(ISensorHost* host, UDPForwarderOptions options,
     : host_(host), options_(std::move(options)), buffer_(BufferStep) {
     host_->setMessage(this, "A network connection (e.g. via a wifi hotspot) is required for UDP.", MESSAGE_GREY,
                       NoticeMilliseconds);
-    for (const auto& entry : sensors)
-        sources_[entry.second].types.push_back(entry.first);
+    for (const auto& entry : sensors) {
+        Source& source = sources_[entry.second];
+        source.types.push_back(entry.first);
+        source.isRelay = dynamic_cast<UDPSensor*>(entry.second) != nullptr;
+    }
 }
 
 UDPForwarder::~UDPForwarder() {
@@ -49,6 +53,8 @@ void UDPForwarder::setupSocket() {
     } else if (!SetUDPSocketTarget(socket_.get(), target, options_.targetPort)) {
         logText("The UDP forwarder can't send to \"" + target + "\".\n");
         socket_.reset();
+    } else {
+        BindSocket(socket_.get(), 0); // to know what is its own when it comes back
     }
 }
 
@@ -62,11 +68,12 @@ void UDPForwarder::forward(ISensor* sensor) {
         return;
     Source& source = found->second;
     const unsigned now = MilliSecs();
-    if (TimeDiff(now, source.lastSendMs) <= static_cast<unsigned>(periodMs_))
-        return;
-    source.lastSendMs = now;
+    const bool isDue = TimeDiff(now, source.lastSendMs) > static_cast<unsigned>(periodMs_);
+    if (isDue)
+        source.lastSendMs = now;
     for (const ISensorData::Type type : source.types) {
-        ISensorData* record = sensor->lastTimeUpdated(type) ? sensor->getData(type) : nullptr;
+        const bool isWanted = (isDue || isForOneFrame(type)) && sensor->lastTimeUpdated(type);
+        ISensorData* record = isWanted ? sensor->getData(type) : nullptr;
         if (!record)
             continue;
         int length = 0;
@@ -76,7 +83,8 @@ void UDPForwarder::forward(ISensor* sensor) {
         packet.sequenceNumber = static_cast<uint8_t>(MilliSecs() / static_cast<unsigned>(periodMs_));
         packet.form = static_cast<const uint8_t*>(record->serialize(&length));
         packet.length = static_cast<size_t>(length);
-        add(packet);
+        if (!source.isRelay || relayed_.isNews(type, packet.form, packet.length, now))
+            add(packet);
     }
     send();
 }

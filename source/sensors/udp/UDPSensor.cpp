@@ -3,7 +3,9 @@
 #include "core/log/Logger.h"
 #include "core/time/Time.h"
 #include "sensors/SensorManager.h"
+#include "sensors/transport/isOwnAddress.h"
 #include "sensors/transport/tellMissingNetwork.h"
+#include "sensors/udp/UDPForwarder.h"
 
 #include <string>
 #include <utility>
@@ -18,7 +20,7 @@ constexpr char AllRoutersOfTheLink[] = "FF02::2";
 } // namespace
 
 UDPSensor::UDPSensor(SensorManager* sensors, const UDPSensorOptions& options, std::vector<ISensorData::Type> types)
-    : options_(options), types_(std::move(types)), records_(*sensors), buffer_(DatagramBytes) {
+    : sensors_(sensors), options_(options), types_(std::move(types)), records_(*sensors), buffer_(DatagramBytes) {
     for (const ISensorData::Type type : types_)
         if (ISensorData::isType(type))
             states_[static_cast<size_t>(type)].isListed = true;
@@ -54,10 +56,21 @@ bool UDPSensor::Update() {
         const int length = socket_->recvWaiting(buffer_.data(), static_cast<unsigned>(buffer_.size()));
         if (length < 0)
             break;
-        if (OnDatagram(reinterpret_cast<const uint8_t*>(buffer_.data()), static_cast<size_t>(length)))
+        if (!isOwnEcho() && OnDatagram(reinterpret_cast<const uint8_t*>(buffer_.data()), static_cast<size_t>(length)))
             anyCame = true;
     }
     return anyCame;
+}
+
+/// What a forwarder of this program sends to all of the network comes back here.
+bool UDPSensor::isOwnEcho() const {
+    const IpAddress sender = GetUDPSocketSender(socket_.get());
+    for (int i = 0; i < sensors_->getSensorForwarderCount(); ++i) {
+        const auto* forwarder = dynamic_cast<const UDPForwarder*>(sensors_->getSensorForwarder(i));
+        if (forwarder && forwarder->getLocalPort() == sender.getPort() && isOwnAddress(sender))
+            return true;
+    }
+    return false;
 }
 
 bool UDPSensor::OnDatagram(const uint8_t* bytes, size_t length) {
@@ -134,8 +147,7 @@ std::string UDPSensor::getSensorDetails() {
 }
 
 int UDPSensor::getBoundPort() const {
-    const auto* bound = dynamic_cast<const IPSocket*>(socket_.get());
-    return bound ? bound->getBoundPort() : -1;
+    return GetSocketPort(socket_.get());
 }
 
 } // namespace skyvane

@@ -25,7 +25,8 @@ struct UDPSensorOptions {
 /// had there. Main thread only; nothing blocks.
 ///
 /// Everything is WRONG when no packet has come for the time-out; a type alone, before its first packet and when it has
-/// been silent for 5 seconds while others came. Only packets that renewed a record count.
+/// been silent for 5 seconds while others came. Only packets that renewed a record count; what this program's own
+/// forwarders sent is passed over.
 class UDPSensor : public ISensor {
 public:
     static constexpr double SilentTypeMs = 5000;
@@ -61,10 +62,12 @@ private:
     };
 
     void setupSocket();
+    bool isOwnEcho() const;
     bool take(const SDatPacket& packet);
     bool isAccepted(const SDatPacket& packet);
     void complain(const std::string& text);
 
+    SensorManager* sensors_;
     UDPSensorOptions options_;
     std::vector<ISensorData::Type> types_;
     RecordSet records_;

@@ -2,8 +2,10 @@
 #include "sensors/FakeDialogs.h"
 #include "sensors/FormText.h"
 #include "sensors/SensorFakes.h"
+#include "sensors/TemporaryFolder.h"
 #include "sensors/records/Attitude_Data.h"
 #include "sensors/records/Heading_Data.h"
+#include "sensors/records/LocGs_Data.h"
 #include "sensors/records/Traffic_Data.h"
 #include "sensors/transport/IPv4UDPSocket.h"
 #include "sensors/transport/IWifiAddresses.h"
@@ -228,6 +230,45 @@ TEST_P(LinkTest, aSensorIsSentOnceAPeriodUnlessPausedAndNothingIsAllocated) {
     forwarder->setPause(false);
     source.hasNews = false;
     EXPECT_FALSE(sends(1.0));
+}
+
+/// Copies that send to each other must not keep a record alive between them when its source has gone.
+TEST_P(LinkTest, aRecordOfAnotherCopyGoesOnOnceAndOnesOwnIsNotHeard) {
+    TemporaryFolder folder;
+    rig.host.configPath = folder.path("config.ini");
+    auto* heading = source.put<Heading_Data>(ISensorData::Heading, 1.0, 5u);
+    auto* localizer = source.put<LocGs_Data>(ISensorData::Localizer, true);
+    localizer->amplitude90Hz = 0.3f;
+    UDPForwarderOptions out;
+    out.ipv6 = GetParam();
+    out.broadcast = false;
+    out.targetAddress = GetParam() ? "::1" : "127.0.0.1";
+    out.targetPort = sensor->getBoundPort();
+    auto made =
+        std::make_unique<UDPForwarder>(&rig.host, out,
+                                       std::map<ISensorData::Type, ISensor*>{{ISensorData::Heading, sensor.get()},
+                                                                             {ISensorData::Localizer, sensor.get()}});
+    UDPForwarder* relay = made.get();
+    relay->forward(sensor.get());
+    const auto comesBack = [&] {
+        rig.clock.advance(0.040);
+        relay->forward(sensor.get());
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        return sensor->Update();
+    };
+    ASSERT_TRUE(sendAfter(0.040));
+    EXPECT_TRUE(comesBack()) << "as it would to another copy";
+    for (int i = 0; i < 30; ++i)
+        comesBack();
+    EXPECT_FALSE(comesBack()) << "neither the one with a time stamp nor the one without goes round";
+    heading->timeStamp = 6;
+    ASSERT_TRUE(sendAfter(0.040));
+    EXPECT_TRUE(comesBack()) << "a new sample, and with it what has no time stamp";
+    EXPECT_TRUE(sensor->lastTimeUpdated(ISensorData::Localizer));
+    rig.manager.addSensorForwarder(0, std::move(made));
+    heading->timeStamp = 7;
+    ASSERT_TRUE(sendAfter(0.040));
+    EXPECT_FALSE(comesBack()) << "sent by this program";
 }
 
 INSTANTIATE_TEST_SUITE_P(BothVersions, LinkTest, testing::Bool());
