@@ -1,6 +1,7 @@
 #include "sensors/log/FileWindow.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -29,6 +30,11 @@ FileWindow::FileWindow(const std::string& path) : handle_(::open(path.c_str(), O
 FileWindow::~FileWindow() {
     if (handle_ >= 0)
         ::close(handle_);
+}
+
+void FileWindow::guard() {
+    if (handle_ >= 0)
+        flock(handle_, LOCK_SH | LOCK_NB);
 }
 
 size_t FileWindow::read(uint64_t offset, uint8_t* bytes, size_t count) const {

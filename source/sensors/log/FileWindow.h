@@ -17,6 +17,8 @@ public:
     FileWindow& operator=(const FileWindow&) = delete;
 
     bool isGood() const { return handle_ >= 0; }
+    /// Keeps those who ask for the file's lock from writing to it while the window is open.
+    void guard();
     uint64_t size() const { return size_; }
     /// Copies up to `count` bytes from `offset` on, and gives how many there were. Any thread.
     size_t read(uint64_t offset, uint8_t* bytes, size_t count) const;

@@ -5,6 +5,8 @@
 
 namespace skyvane {
 LogFile::LogFile(const std::string& path) : index_(calculateLogIndex(path)), file_(path), types_(allDataTypes()) {
+    // Nobody records over a log that plays.
+    file_.guard();
     LogHeader header;
     if (!header.read(file_))
         return;

@@ -9,7 +9,7 @@
 
 namespace skyvane {
 
-/// A log opened for reading. One without an index gets one first.
+/// A log opened for reading; no recording replaces it meanwhile. One without an index gets one first.
 class LogFile {
 public:
     struct Record {

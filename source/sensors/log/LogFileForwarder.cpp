@@ -3,14 +3,21 @@
 #include "core/log/Logger.h"
 #include "core/time/Time.h"
 #include "sensors/ISensor.h"
+#include "sensors/ISensorHost.h"
 #include "sensors/log/LogIndex.h"
 
 #include <utility>
 
 namespace skyvane {
+namespace {
 
-LogFileForwarder::LogFileForwarder(std::string fileName, const std::map<ISensorData::Type, ISensor*>& sensors)
-    : fileName_(std::move(fileName)), writer_(fileName_) {
+constexpr int NoTimeOut = -1;
+
+} // namespace
+
+LogFileForwarder::LogFileForwarder(std::string fileName, const std::map<ISensorData::Type, ISensor*>& sensors,
+                                   ISensorHost* host)
+    : fileName_(std::move(fileName)), host_(host), writer_(fileName_) {
     const unsigned longAgo = MilliSecs() - 2 * static_cast<unsigned>(periodMs_);
     for (const auto& entry : sensors) {
         Source& source = sources_[entry.second];
@@ -22,6 +29,8 @@ LogFileForwarder::LogFileForwarder(std::string fileName, const std::map<ISensorD
 }
 
 LogFileForwarder::~LogFileForwarder() {
+    if (host_)
+        host_->removeMessage(this);
     writer_.close();
     logText("Writing Logfile index...", Logger::ToConsole);
     calculateLogIndex(fileName_);
@@ -33,17 +42,24 @@ void LogFileForwarder::forward(ISensor* sensor) {
         return;
     Source& source = found->second;
     const unsigned now = MilliSecs();
-    if (TimeDiff(now, source.lastWriteMs) <= static_cast<unsigned>(periodMs_))
-        return;
-    source.lastWriteMs = now;
+    const bool isDue = TimeDiff(now, source.lastWriteMs) > static_cast<unsigned>(periodMs_);
+    if (isDue)
+        source.lastWriteMs = now;
     for (const ISensorData::Type type : source.types)
-        if (sensor->lastTimeUpdated(type))
+        if ((isDue || isForOneFrame(type)) && sensor->lastTimeUpdated(type))
             if (ISensorData* record = sensor->getData(type))
                 forward(type, record);
     writer_.flush();
-    if (fail() && !toldFailure_)
-        logText("Error: The log " + fileName_ + " can't be written any more.\n");
-    toldFailure_ = fail();
+    tellFailure();
+}
+
+void LogFileForwarder::tellFailure() {
+    if (!fail() || toldFailure_)
+        return;
+    toldFailure_ = true;
+    logText("Error: The log " + fileName_ + " can't be written any more.\n");
+    if (host_)
+        host_->setMessage(this, "The recording has ended: its log can't be written.", MESSAGE_YELLOW, NoTimeOut);
 }
 
 void LogFileForwarder::forward(ISensorData::Type type, ISensorData* record) {

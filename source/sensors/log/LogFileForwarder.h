@@ -10,12 +10,16 @@
 
 namespace skyvane {
 
-/// Records a flight: writes what the chosen sensors renew into a log, in every frame but at most once a forward period.
-/// Its end indexes the log, which blocks for as long as it takes to read it.
+class ISensorHost;
+
+/// Records a flight: writes what the chosen sensors renew into a log, in every frame but at most once a forward period,
+/// uplinks always. Its end indexes the log, which blocks for as long as it takes to read it.
 class LogFileForwarder : public ISensorForwarder {
 public:
     /// Replaces the file and writes first records. The sensors outlive the forwarder; each type comes from its sensor.
-    LogFileForwarder(std::string fileName, const std::map<ISensorData::Type, ISensor*>& sensors);
+    /// The host, which outlives it too, tells the pilot when the recording breaks off; null tells the log alone.
+    LogFileForwarder(std::string fileName, const std::map<ISensorData::Type, ISensor*>& sensors,
+                     ISensorHost* host = nullptr);
     ~LogFileForwarder() override;
 
     void forward(ISensor* sensor) override;
@@ -33,7 +37,10 @@ private:
         unsigned lastWriteMs;
     };
 
+    void tellFailure();
+
     std::string fileName_;
+    ISensorHost* host_;
     LogWriter writer_;
     int periodMs_ = 20;
     bool paused_ = false;

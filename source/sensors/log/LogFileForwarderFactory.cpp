@@ -32,9 +32,9 @@ bool LogFileForwarderFactory::setup() {
 }
 
 std::unique_ptr<ISensorForwarder> LogFileForwarderFactory::Create() {
-    auto forwarder = std::make_unique<LogFileForwarder>(fileName_, sources_);
+    auto forwarder = std::make_unique<LogFileForwarder>(fileName_, sources_, sensors_->getHost());
     if (forwarder->fail())
-        dialogs_->tell("The log can't be written:\n" + fileName_);
+        dialogs_->tell("The log can't be written, or it plays at present:\n" + fileName_);
     return forwarder;
 }
 

@@ -38,6 +38,8 @@ void LogFileSensor::showNotice() {
         return;
     noticeShown_ = true;
     lastUpdateMs_ = MilliSecs();
+    // When it was made, nobody knew yet what it is used for.
+    sensors_->registerSeekableSensor(this);
     sensors_->getHost()->showMessageBox("A logfile is in use.\n"
                                         "The visualizations do NOT represent the actual situation.\n"
                                         "You may want to go to \"Sensor Setting\" to change that.");

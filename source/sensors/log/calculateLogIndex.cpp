@@ -28,7 +28,8 @@ public:
     LogEnd& operator=(const LogEnd&) = delete;
 
     bool isGood() const { return handle_ >= 0; }
-    bool lock() { return flock(handle_, LOCK_EX | LOCK_NB) == 0; }
+    /// False while it is being recorded. Beside those who play it: two that index at a time write the same bytes.
+    bool lock() { return flock(handle_, LOCK_SH | LOCK_NB) == 0; }
     bool resize(uint64_t size) { return ftruncate(handle_, static_cast<off_t>(size)) == 0; }
     bool write(const uint8_t* bytes, size_t length, uint64_t offset) {
         for (size_t written = 0; written < length;) {

@@ -11,6 +11,7 @@
 #include "sensors/log/LogNames.h"
 #include "sensors/records/Raw_Data.h"
 #include "sensors/records/Traffic_Data.h"
+#include "sensors/records/UATUplink_Data.h"
 #include "support/AllocationCounter.h"
 
 #include <gtest/gtest.h>
@@ -73,6 +74,44 @@ TEST_F(LogFileForwarderTest, writesWhatWasRenewedAtMostOnceAPeriod) {
     written.resize(wanted.size());
     std::fill(written.begin() + 4, written.begin() + 8, uint8_t{0});
     EXPECT_EQ(written, wanted.bytes());
+}
+
+TEST_F(LogFileForwarderTest, anUplinkIsWrittenInTheFrameThatHasIt) {
+    rig.clock.advance(10.0005);
+    sensor.put<Heading_Data>(ISensorData::Heading);
+    auto* uplinks = sensor.put<UATUplink_Data>(ISensorData::UATUplink);
+    sensor.hasNews = true;
+    {
+        LogFileForwarder log(path, all(&sensor));
+        for (uint8_t frame = 1; frame <= 4; ++frame) {
+            rig.clock.advance(0.006);
+            uplinks->messages = {{frame}};
+            log.forward(&sensor);
+        }
+    }
+    LogFile log(path);
+    std::map<ISensorData::Type, int> counts;
+    LogFile::Record record;
+    for (size_t i = 0; i < log.index().samples.size(); ++i)
+        if (log.read(i, record))
+            ++counts[record.type];
+    EXPECT_EQ(counts[ISensorData::UATUplink], 5);
+    EXPECT_EQ(counts[ISensorData::Heading], 2);
+}
+
+TEST_F(LogFileForwarderTest, aLogThatPlaysIsNotRecordedOver) {
+    LogBytes log;
+    log.heading(0, 12.0);
+    log.save(path);
+    LogFile playing(path);
+    const Bytes before = LogBytes::load(path);
+    {
+        LogFileForwarder over(path, all(&sensor), &rig.host);
+        EXPECT_TRUE(over.fail());
+        EXPECT_EQ(rig.host.texts().size(), 1u) << "the pilot is told";
+    }
+    EXPECT_TRUE(rig.host.texts().empty());
+    EXPECT_EQ(LogBytes::load(path), before);
 }
 
 TEST_F(LogFileForwarderTest, aFileThatCannotBeMadeHarmsNothing) {
