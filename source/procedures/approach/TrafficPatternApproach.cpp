@@ -12,12 +12,18 @@ namespace {
 
 constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double HighestMetres = 100000.0;
+/// A circuit is longer, what is left of it near its end is shorter.
+constexpr double MostMilesLeft = 0.3;
 
 } // namespace
 
 void TrafficPatternApproach::setCircuit(bool isLeftTraffic, double altitude) {
     isLeftTraffic_ = isLeftTraffic;
     tpAltitude_ = altitude;
+}
+
+bool TrafficPatternApproach::shallSwitchToNextProc() {
+    return IProcedure::shallSwitchToNextProc() && getLength() < MostMilesLeft;
 }
 
 CourseList TrafficPatternApproach::calculatePath(const ApproachPath& path, const ApproachStart& start) const {

@@ -16,6 +16,8 @@ public:
     bool isLeftTraffic() const { return isLeftTraffic_; }
     double getCircuitAltitude() const { return tpAltitude_; }
     const char* getAppId() const override { return AppId; }
+    /// The path ends where it enters the circuit: only who has flown around has reached its end.
+    bool shallSwitchToNextProc() override;
 
 protected:
     CourseList calculatePath(const ApproachPath& path, const ApproachStart& start) const override;

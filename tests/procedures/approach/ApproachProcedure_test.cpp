@@ -137,6 +137,21 @@ TEST_F(Approaches, areMadeFromTheProfileChosen) {
     EXPECT_TRUE(host.messages.empty());
 }
 
+TEST_F(Approaches, ofCircuitsEndBehindTheCircuitNotWhereItIsEntered) {
+    for (const size_t profile : {2, 3}) {
+        const auto pattern = make(0, profile);
+        const CourseList list = fly(*pattern);
+        const CourseElement& entered = list.back();
+        pattern->updatePosRelated(entered.position, entered.altitude, 100.0, entered.course);
+        EXPECT_FALSE(pattern->shallSwitchToNextProc()) << "the circuit lies ahead";
+        const double back = calcBearing2(entered.position, std::prev(list.end(), 2)->position) / DegreesPerRadian;
+        const ChartPosition around =
+            Vector3df642ChartPosition(entered.position, {std::sin(back) * 150.0, 0.0, std::cos(back) * 150.0});
+        pattern->updatePosRelated(around, entered.altitude, 100.0, entered.course);
+        EXPECT_TRUE(pattern->shallSwitchToNextProc());
+    }
+}
+
 TEST(ApproachValues, hangTogether) {
     ApproachValues values;
     values.setElevation(530);
