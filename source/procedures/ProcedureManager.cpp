@@ -148,7 +148,7 @@ bool ProcedureManager::calculateCourseList() {
     PanelManager* panels = context_->getPanelManager();
     panels->OnProcedureNodesDelete();
     const FlightReadings readings = readFlight(*context_->getSensorManager());
-    awaitsPosition_ = awaitsPosition_ && !readings.isPlaced();
+    awaitsPosition_ = !readings.isPlaced();
     if (readings.isPlaced())
         plan_.calculateCourseLists(*readings.position, *readings.altitude, readings.heading.value_or(0.0));
     notifyChanged();
@@ -289,7 +289,6 @@ bool ProcedureManager::retrieveFlightPlan(const std::string& name) {
 }
 
 void ProcedureManager::startWithFlightPlan(const std::string& name) {
-    awaitsPosition_ = true;
     if (retrieveFlightPlan(name) || !losses_.empty())
         return;
     context_->setMessage(&saved_, "FLIGHT PLAN:\nthere is no saved plan \"" + name + "\"", MESSAGE_YELLOW,

@@ -63,7 +63,7 @@ public:
     bool isProcedureTarget(int chartIndex) { return plan_.isTarget(chartIndex); }
 
     /// Makes the paths anew from where the aircraft is. False without procedures, and when nobody knows where that is:
-    /// the paths stay then.
+    /// the paths stay then, and are made once somebody does.
     bool calculateCourseList();
     /// Every frame. The highway follows at most twice a second, and at once when forced.
     void Update(bool force);
@@ -124,7 +124,7 @@ private:
     HighwayMesh highwayMesh_;
     HighwayMeshes meshes_;
     bool pathChanged_ = false;
-    bool awaitsPosition_ = false; ///< The paths of the plan at the start couldn't be made yet.
+    bool awaitsPosition_ = false; ///< The paths were asked for and couldn't be made yet.
     unsigned lastUpdateMilliseconds_ = 0;
     std::optional<int> warnedFeet_; ///< Above the destination.
     unsigned warnedMilliseconds_ = 0;

@@ -71,6 +71,8 @@ TEST_P(ProcedureManagerTest, tellsThePanelsAndHandsThemTheHighway) {
     EXPECT_FALSE(manager().calculateCourseList()); // nobody knows where the aircraft is
     EXPECT_TRUE(manager().getCurrentProcedure()->getCourseList().empty());
     context->getSensorManager()->startSimulation({8.0, 50.0}, 90, 1000);
+    manager().Update(false);
+    EXPECT_FALSE(manager().getCurrentProcedure()->getCourseList().empty()) << "asked for before";
     EXPECT_TRUE(manager().calculateCourseList());
     EXPECT_NEAR(manager().getCurrentProcedure()->getLength(), 19.3, 0.2);
     EXPECT_LT(manager().getCurrentProcedure()->getGuidance().crossTrackError, 0.05);
