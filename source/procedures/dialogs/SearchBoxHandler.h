@@ -85,10 +85,8 @@ private:
 
     std::wstring typedText() const;
     void searchFor(const char* text);
-    void showRows(const std::vector<std::string>& labels, int selected);
     void showHint();
     void showDistance(const IChartElement* element);
-    void showProcedures(const IChartElement* element);
     void onHereChanged();
     void focusEdit();
     IChartElement* selectedElement() const;
