@@ -69,8 +69,9 @@ std::string flyingTimeText(const std::optional<double>& miles, const std::option
 
 std::string planLine(int index, IProcedure& procedure, bool metric) {
     const std::optional<double> miles = milesOf(procedure);
-    return toText(index + 1) + "  " + procedure.getName() +
-           (miles ? "   " + toFixedText(inUnit(*miles, metric), 1) + (metric ? " km" : " NM") : std::string());
+    return toText(index + 1) + "   " +
+           (miles ? toFixedText(inUnit(*miles, metric), 1) + (metric ? " km   " : " NM   ") : std::string()) +
+           procedure.getName();
 }
 
 } // namespace skyvane

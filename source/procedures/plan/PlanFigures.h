@@ -23,7 +23,7 @@ std::optional<double> readTypedSpeed(const std::string& text);
 std::string totalDistanceText(const std::optional<double>& miles, bool metric);
 /// "kts: 01:02:03": the time at that speed, which is in the unit that the text begins with.
 std::string flyingTimeText(const std::optional<double>& miles, const std::optional<double>& speed, bool metric);
-/// One line of the list: its number, its name, its length.
+/// One line of the list: its number, its length, its name, which may be too long for the list.
 std::string planLine(int index, IProcedure& procedure, bool metric);
 
 } // namespace skyvane

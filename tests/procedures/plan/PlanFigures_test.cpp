@@ -39,7 +39,7 @@ TEST(PlanFigures, areThoseOfThePathsAndOfTheTypedSpeed) {
     for (const double longitude : {0.5, 1.0})
         plan.add(std::make_unique<DirectProcedure>(ChartPosition(longitude, 0.0), nullptr));
     EXPECT_FALSE(measurePlan(plan.getProcedures(), 0).totalMiles);
-    EXPECT_EQ(planLine(1, *plan.get(1), false), "2  Direct: User Position");
+    EXPECT_EQ(planLine(1, *plan.get(1), false), "2   Direct: User Position");
     plan.setCurrent(1);
     plan.calculateCourseLists({0.5, 0.0}, 1000.0, 90.0);
     EXPECT_FALSE(measurePlan(plan.getProcedures(), 1).totalMiles) << "the first one has no path";
