@@ -1,6 +1,7 @@
 #include "procedures/dialogs/InterceptScreen.h"
 
 #include "chart/geodesy/EarthConstants.h"
+#include "chart/geodesy/GreatCircle.h"
 #include "chart/geodesy/LocalFrame.h"
 #include "core/Context.h"
 #include "core/log/Logger.h"
@@ -11,6 +12,7 @@
 #include "procedures/dialogs/ProcedureDocuments.h"
 #include "procedures/framework/FlightReadings.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace skyvane {
@@ -24,6 +26,11 @@ const irr::video::SColor lineColor(0xff8fa6bd);
 ChartPosition movedAlong(const ChartPosition& from, double courseDegrees, double metres) {
     const double course = courseDegrees / DegreesPerRadian;
     return Vector3df642ChartPosition(from, {std::sin(course) * metres, 0.0, std::cos(course) * metres});
+}
+
+/// How far the line is drawn to each side of the fix: beyond where the path meets it.
+double lineReach(const ChartPosition& fix, const CourseList& path) {
+    return path.empty() ? ShownMetres : std::max(ShownMetres, calcDistance2(fix, path.back().position) + SeenMetres);
 }
 
 std::wstring troubleOf(InterceptProcedureFactory::Answer answer) {
@@ -88,8 +95,6 @@ void InterceptScreen::refresh() {
     scene.fixes = {fix};
     if (take().empty()) {
         const double course = factory_.getLine().courseToElement;
-        scene.guides = {
-            {movedAlong(fix, course, -ShownMetres), movedAlong(fix, course, ShownMetres), LineWidth, lineColor}};
         scene.seen = {movedAlong(fix, course, -SeenMetres), movedAlong(fix, course, SeenMetres)};
         const FlightReadings readings = readFlight(*context_.getSensorManager());
         const std::unique_ptr<IProcedure> made = factory_.Create();
@@ -97,6 +102,8 @@ void InterceptScreen::refresh() {
             made->calculateCourseList(*readings.position, *readings.altitude, readings.heading.value_or(0.0));
             scene.course = made->getCourseList();
         }
+        const double reach = lineReach(fix, scene.course);
+        scene.guides = {{movedAlong(fix, course, -reach), movedAlong(fix, course, reach), LineWidth, lineColor}};
     }
     showText(element("twarning"), factory_.isMetBeyond(scene.course) ? BeyondText : L"");
     preview().show(std::move(scene));
