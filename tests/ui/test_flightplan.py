@@ -70,6 +70,9 @@ def write_plans(home):
         plans.write('[Damaged]\ncnt = 4000000000\n' + procedure(0, 'Direct', SANDA, 3, targetTurnRate=-1e300,
                                                                 targetGroundSpeed='fast') +
                     procedure(1, 'Teleport', SANDA, 3) + procedure(2, 'Direct', (91.0, 0.0), 3))
+        fix = offset(THRESHOLD, RUNWAY + 180 + 80, 3 * MILE)
+        approach.update({'appId': 'FinalApproach', 'fafPos.latitude': fix[0], 'fafPos.longitude': fix[1]})
+        plans.write('[Steep]\ncnt = 1\n' + procedure(0, 'Approach', FIELD, 7, **approach))
 
 
 def prepare(build):
@@ -380,4 +383,21 @@ def test_the_simulator_flies_what_is_left_of_a_damaged_plan(build):
         time.sleep(1)
         plan.press(WHERE, 'bstart', plan.high)
         cockpit.wait(lambda: not is_blue(cockpit.look()), 20, 'the end of the simulation')
+        assert cockpit.close() == 0
+
+
+@thorough
+def test_a_final_that_was_turned_is_told_as_long_as_it_is_flown(build):
+    with Cockpit(build, config(), SIZE, prepare=prepare(build)) as cockpit:
+        plan = Plan(cockpit)
+        hold(cockpit, 'flightgear', latitude=START[0], longitude=START[1], altitude_ft=CRUISE, heading=0, ias_kt=100)
+        time.sleep(1)
+        plan.load(2, 1)
+        cockpit.wait(lambda: plan.current(cockpit.look()) == 0, 20, 'the plan')
+        plan.press(PLAN, 'bclose', plan.low)
+        cockpit.wait(lambda: message_lines(cockpit.look()) == 2, 20, 'the message')
+        cockpit.save(cockpit.look(), 'flightplan-steep')
+        plan.load(0, 5)
+        plan.press(PLAN, 'bclose', plan.low)
+        cockpit.wait(lambda: message_lines(cockpit.look()) == 0, 20, 'the message to go with its approach')
         assert cockpit.close() == 0
