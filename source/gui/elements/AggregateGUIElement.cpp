@@ -14,9 +14,9 @@ AggregateGUIElement::AggregateGUIElement(irr::gui::IGUIEnvironment* environment,
     : AggregatableGUIElement(environment, options.wish, options.id, options.data, parent, rectangle),
       options_(options) {
     for (IAggregatableGUIElement* child : subElements)
-        addSubElement(child, false);
+        insert(child, false);
     for (IAggregatableGUIElement* child : activatedSubElements)
-        addSubElement(child, true);
+        insert(child, true);
     AggregateGUIElement::updateAbsolutePosition();
 }
 
@@ -26,6 +26,11 @@ AggregateGUIElement::~AggregateGUIElement() {
 }
 
 void AggregateGUIElement::addSubElement(IAggregatableGUIElement* child, bool canBeActivated) {
+    insert(child, canBeActivated);
+    updateSubElementsPosition(scroll_.getOffset());
+}
+
+void AggregateGUIElement::insert(IAggregatableGUIElement* child, bool canBeActivated) {
     if (!child)
         return;
     const std::size_t onlyLaidOut = children_.size() - activatable_.size();
@@ -35,7 +40,6 @@ void AggregateGUIElement::addSubElement(IAggregatableGUIElement* child, bool can
         activatable_.push_back(child);
     addChild(child);
     child->drop();
-    updateSubElementsPosition(scroll_.getOffset());
 }
 
 void AggregateGUIElement::removeSubElements() {

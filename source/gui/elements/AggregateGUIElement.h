@@ -38,7 +38,7 @@ public:
                         const irr::core::rect<irr::s32>& rectangle = {0, 0, 1, 1});
     ~AggregateGUIElement() override;
 
-    /// Takes over the reference.
+    /// Takes over the reference, and lays all children out anew: many are better given to the constructor.
     void addSubElement(IAggregatableGUIElement* child, bool canBeActivated);
     /// The content begins at its start again.
     void removeSubElements();
@@ -63,6 +63,7 @@ public:
     void removeChild(irr::gui::IGUIElement* child) override;
 
 private:
+    void insert(IAggregatableGUIElement* child, bool canBeActivated);
     void updateSubElementsPosition(int offset);
     void updateScrollSpeed();
     void scrolled();

@@ -13,6 +13,7 @@ namespace skyvane {
 
 class AggregateGUIElement;
 class Context;
+class IAggregatableGUIElement;
 class IniFile;
 class LoadSaveSettingsDialog;
 class ScrollBar;
@@ -62,14 +63,14 @@ private:
     /// One line of the list, its elements only to be compared. Without a name it leads back.
     struct Row {
         Item item;
-        irr::gui::IGUIElement* element = nullptr;
+        IAggregatableGUIElement* element = nullptr;
         irr::gui::IGUIElement* rename = nullptr;
         irr::gui::IGUIElement* bin = nullptr;
     };
 
     void build();
     void show();
-    void addRows(int rowHeight, float share);
+    void makeRows(float share);
     Row makeRow(const Item& item, float share);
     void onEvent(const irr::SEvent& event);
     bool onButton(const irr::SEvent& event);

@@ -57,9 +57,13 @@ void LoadSaveSettingsDialog::show() {
     area.LowerRightCorner.X -= barWidth;
     AggregateGUIElement::Options options;
     options.scrollable = true;
-    list_ =
-        EngineRef<AggregateGUIElement>::adopt(new AggregateGUIElement(environment_, options, {}, {}, window_, area));
-    addRows(context_->getRecommendedButtonHeight() * 5 / 4, static_cast<float>(area.getHeight()));
+    makeRows(static_cast<float>(context_->getRecommendedButtonHeight() * 5 / 4) /
+             static_cast<float>(std::max(area.getHeight(), 1)));
+    AggregateGUIElement::Elements elements;
+    for (const Row& row : rows_)
+        elements.push_back(row.element);
+    list_ = EngineRef<AggregateGUIElement>::adopt(
+        new AggregateGUIElement(environment_, options, {}, elements, window_, area));
     auto* bar = new ScrollBar(environment_, 1.0f, false, -1, nullptr, LayoutWish(), window_, barPlace);
     bar->linkToScrollable(list_.get());
     bar->setVisible(list_->canScroll());
@@ -71,16 +75,13 @@ void LoadSaveSettingsDialog::show() {
     element("bexport")->setEnabled(library_.count("") > 0);
 }
 
-void LoadSaveSettingsDialog::addRows(int rowHeight, float viewHeight) {
-    const float share = static_cast<float>(rowHeight) / std::max(viewHeight, 1.0f);
+void LoadSaveSettingsDialog::makeRows(float share) {
     std::vector<Item> items = library_.list(folder_);
     if (!folder_.empty())
         items.insert(items.begin(), Item{"", true});
     for (const Item& item : items) {
         rows_.push_back(makeRow(item, share));
-        auto* row = static_cast<IAggregatableGUIElement*>(rows_.back().element);
-        list_->addSubElement(row, true);
-        row->setActive(!item.isFolder && item.name == chosen_);
+        rows_.back().element->setActive(!item.isFolder && item.name == chosen_);
     }
 }
 
