@@ -13,6 +13,7 @@ namespace skyvane {
 namespace {
 
 constexpr double SilentSeconds = 5.0;
+constexpr uint32_t SilentMs = 5000;
 /// What one update can add to the play time at most.
 constexpr double LargestStepMs = 1e9;
 
@@ -110,11 +111,29 @@ bool LogFileSensor::readSample() {
         return false;
     stopAtKey();
     const size_t before = lastRead_;
+    const size_t landed = current_;
     if (!takeRecords())
         return false;
+    if (jumped_)
+        takeStateBefore(landed);
     if (before != NoSample && before > current_)
         startOver();
     return true;
+}
+
+/// What was there before a jump is of another moment. Each type that didn't come with the sample landed on gets its
+/// last record before it, as far as that isn't too old; the others aren't offered until they come.
+void LogFileSensor::takeStateBefore(size_t landed) {
+    const auto& samples = index().samples;
+    for (TypeState& state : types_)
+        state.came = state.updated;
+    LogFile::Record record;
+    for (size_t i = landed; i-- > 0;) {
+        if (distance(samples[i].timeMs, samples[landed].timeMs) > SilentMs)
+            break;
+        if (log_.read(i, record) && !types_[static_cast<size_t>(record.type)].came)
+            takeRecord(i);
+    }
 }
 
 /// All records of one time; the last of them becomes the current sample. One that can't be read is passed over.

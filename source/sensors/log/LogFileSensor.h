@@ -14,7 +14,8 @@ class SensorManager;
 /// Plays a recorded flight as if its devices delivered it now: the manager's playback state, speed and loop decide how
 /// the play time moves. All records of one time arrive together. Main thread only.
 ///
-/// A type is offered while its last record isn't older than 5 seconds, pauses not counted. Whoever skips over a record
+/// A type is offered while its last record isn't older than 5 seconds, pauses not counted; after a jump, when its last
+/// record there isn't. Whoever skips over a record
 /// that tells estimators to start over gets that record; whoever goes back gets such a reset, and the play goes on from
 /// the first sample.
 class LogFileSensor : public ISeekableSensor {
@@ -57,6 +58,7 @@ private:
     void stopAtKey();
     bool takeRecords();
     bool takeRecord(size_t sample);
+    void takeStateBefore(size_t landed);
     void startOver();
 
     std::string path_;

@@ -194,6 +194,29 @@ TEST_F(LogFileSensorTest, badRecordsArePassedOver) {
     EXPECT_EQ(heading(), 52.0);
 }
 
+TEST_F(LogFileSensorTest, aSeekShowsTheMomentItLandsOnAlone) {
+    LogBytes log;
+    for (uint32_t i = 0; i <= 600; ++i) {
+        log.heading(100 * i, i);
+        if (i % 10 == 5 && i < 300)
+            log.attitude(100 * i, 0);
+    }
+    open(log);
+    rig.manager.setPlaybackState(SensorManager::PLAYBACK_PAUSE);
+    const auto stampAt = [&](double seconds) {
+        sensor->setPlayPosition(static_cast<float>(seconds / 60.0));
+        for (int frame = 0; frame < 3; ++frame) // going back takes two
+            after(36);
+        EXPECT_NEAR(heading(), 10.0 * seconds, 1.0);
+        const auto* record = static_cast<Attitude_Data*>(sensor->getData(ISensorData::Attitude));
+        return record ? static_cast<int>(record->timeStamp) : -1;
+    };
+    EXPECT_EQ(stampAt(20.2), 19500);
+    EXPECT_EQ(stampAt(32.0), 29500) << "not yet silent for 5 seconds";
+    EXPECT_EQ(stampAt(50.0), -1) << "what it was before the seek isn't of this moment";
+    EXPECT_EQ(stampAt(10.2), 9500);
+}
+
 TEST_F(LogFileSensorTest, emptyAndMissingLogsPlayNothing) {
     open(LogBytes());
     EXPECT_FALSE(sensor->Update());
