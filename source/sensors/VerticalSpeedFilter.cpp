@@ -8,6 +8,8 @@ namespace {
 /// ln 2 / 2, per second.
 constexpr double DecayRate = 0.34657359027997264;
 constexpr double MinimalStepSeconds = 0.0001;
+/// What is beyond is a fault on the way: one such sample would keep the needle at its stop for minutes.
+constexpr double LargestMetresPerSecond = 1000.0;
 
 } // namespace
 
@@ -15,7 +17,7 @@ void VerticalSpeedFilter::update(double climbMetresPerSecond, unsigned timeStamp
     if (timeStamp == lastTimeStamp_)
         return;
     lastTimeStamp_ = timeStamp;
-    if (!std::isfinite(climbMetresPerSecond))
+    if (!(std::abs(climbMetresPerSecond) <= LargestMetresPerSecond))
         return;
     if (!initialised_) {
         initialised_ = true;
