@@ -37,12 +37,16 @@ int ChartSetWriter::add(const IChartElement& element) {
 bool ChartSetWriter::finish() {
     const std::string names = folder_ + "/" + NamesFileName, areas = folder_ + "/" + AreaLeafesFileName;
     const std::string acc = folder_ + "/" + AreaLeafesAccFileName;
+    if (!saveNames(names_, names + ".new") || !writeAreaLeafes(areas + ".new", 0, table_.data()) ||
+        !elements_.prepare()) {
+        for (const std::string& path : {names, areas})
+            std::remove((path + ".new").c_str());
+        return false;
+    }
     // Without offsets there are no elements: what follows never meets the older ones.
     for (const std::string& old : {folder_ + "/" + ElementOffsetsFileName, acc, acc + ".dirty"})
         std::remove(old.c_str());
-    return saveNames(names_, names + ".new") && replaceFile(names + ".new", names) &&
-           writeAreaLeafes(areas + ".new", 0, table_.data()) && replaceFile(areas + ".new", areas) &&
-           elements_.finish();
+    return replaceFile(names + ".new", names) && replaceFile(areas + ".new", areas) && elements_.finish();
 }
 
 } // namespace skyvane

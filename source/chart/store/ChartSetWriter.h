@@ -25,7 +25,8 @@ public:
 
     /// The element's index in the set, -1 when it has no room for more.
     int add(const IChartElement& element);
-    /// True when all files are in place. A set that couldn't be written, or not to its end, has no elements.
+    /// True when all files are in place. An older set stays as it was until all of the new one is written; a kill while
+    /// the one takes the place of the other leaves a set without elements.
     bool finish();
 
 private:

@@ -37,6 +37,7 @@ ElementFilesWriter::ElementFilesWriter(const std::string& folder)
 
 ElementFilesWriter::~ElementFilesWriter() {
     std::remove(fresh(elementsPath(folder_)).c_str());
+    std::remove(fresh(offsetsPath(folder_)).c_str());
 }
 
 int ElementFilesWriter::add(const IChartElement& element) {
@@ -66,13 +67,16 @@ bool ElementFilesWriter::writeOffsets(const std::string& path) const {
     return out.good();
 }
 
-bool ElementFilesWriter::finish() {
+bool ElementFilesWriter::prepare() {
     out_.close();
-    const std::string offsets = offsetsPath(folder_), elements = elementsPath(folder_);
-    if (!out_ || !writeOffsets(fresh(offsets))) {
-        std::remove(fresh(offsets).c_str());
+    isPrepared_ = out_ && writeOffsets(fresh(offsetsPath(folder_)));
+    return isPrepared_;
+}
+
+bool ElementFilesWriter::finish() {
+    if (!isPrepared_ && !prepare())
         return false;
-    }
+    const std::string offsets = offsetsPath(folder_), elements = elementsPath(folder_);
     std::remove(offsets.c_str()); // none of them may meet the other elements
     return replaceFile(fresh(elements), elements) && replaceFile(fresh(offsets), offsets);
 }

@@ -40,7 +40,9 @@ public:
 
     /// The element's index in the set, -1 when no more have one (MaxElementsOfSubChart), or offsets end (4 GiB).
     int add(const IChartElement& element);
-    /// True when both files are in place.
+    /// Writes what is left beside the files that stand there. False when the disk refuses: nothing has happened then.
+    bool prepare();
+    /// The same, and then in their place. True when both files are.
     bool finish();
 
 private:
@@ -50,6 +52,7 @@ private:
     std::ofstream out_;
     std::vector<uint32_t> offsets_;
     uint64_t end_ = 0; ///< Bytes of records so far.
+    bool isPrepared_ = false;
 };
 
 /// Reads records by their index, each by one read. Keeps Elements.dat open.
