@@ -6,12 +6,11 @@
 #include "chart/elements/IChartElement.h"
 #include "chart/store/ElementId.h"
 #include "core/IProgressSink.h"
+#include "core/files/SafeFile.h"
 #include "core/ini/IniFile.h"
 #include "core/log/Logger.h"
 
-#include <fcntl.h>
 #include <fstream>
-#include <unistd.h>
 
 namespace skyvane {
 namespace {
@@ -30,17 +29,7 @@ public:
     /// True when it is on disk.
     bool save(bool dirty) {
         document_.set("", "dirty", dirty ? "1" : "0");
-        return document_.Save(path_) && flush(path_);
-    }
-
-    /// Makes sure that what was written of a file outlives the power.
-    static bool flush(const std::string& path) {
-        const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-        if (file < 0)
-            return false;
-        const bool flushed = fsync(file) == 0;
-        close(file);
-        return flushed;
+        return document_.Save(path_);
     }
 
 private:
@@ -160,7 +149,7 @@ void recompute(IAreaElementSet* set, const std::string& path, DirtyFlag& flag, I
     out.close();
     if (progress && progress->isCancelled())
         logText("Cancelled: it will be calculated again at the next start.\n");
-    else if (!out || !DirtyFlag::flush(path) || !flag.save(false))
+    else if (!out || !flushToDisk(path) || !flag.save(false))
         logText("Could not write " + path + ": it will be calculated again at the next start.\n");
 }
 

@@ -2,8 +2,8 @@
 
 #include "core/bytes/ByteReader.h"
 #include "core/bytes/ByteWriter.h"
+#include "core/files/SafeFile.h"
 
-#include <filesystem>
 #include <fstream>
 
 namespace skyvane {
@@ -51,19 +51,7 @@ bool RecentRing::save(const std::string& path) const {
     ByteWriter writer(bytes, fileBytes);
     for (int place = 0; place < Capacity; ++place)
         writer.little<int32_t>(at(place));
-    const std::string fresh = path + ".new";
-    std::ofstream out(fresh, std::ios::binary);
-    out.write(bytes, fileBytes);
-    out.close();
-    std::error_code error;
-    if (out)
-        std::filesystem::rename(fresh, path, error);
-    if (!out || error) {
-        std::error_code ignored;
-        std::filesystem::remove(fresh, ignored);
-        return false;
-    }
-    return true;
+    return saveFileSafely(path, std::string(bytes, fileBytes)) == 0;
 }
 
 } // namespace skyvane

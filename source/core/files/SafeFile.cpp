@@ -39,6 +39,8 @@ int writeStream(const std::string& path, const std::function<void(std::ostream&)
     return out ? 0 : reasonOfFailure();
 }
 
+} // namespace
+
 bool flushToDisk(const std::string& path) {
     const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (file < 0)
@@ -47,8 +49,6 @@ bool flushToDisk(const std::string& path) {
     ::close(file);
     return flushed;
 }
-
-} // namespace
 
 int saveFileSafely(const std::string& path, const std::function<void(std::ostream&)>& write) {
     const std::string target = followLinks(path);

@@ -21,6 +21,9 @@ int saveFileSafely(const std::string& path, const std::string& text);
 /// a failure of any kind there is the one or the other. False, and the fresh one goes, when that fails.
 bool replaceFile(const std::string& fresh, const std::string& path);
 
+/// Makes sure that what was written of a file outlives the power. False when that fails.
+bool flushToDisk(const std::string& path);
+
 /// Removes what killed writers have left in a folder, the neighbours of files of this ending (".terr").
 void removeUnfinishedFiles(const std::string& folder, const std::string& ending);
 
