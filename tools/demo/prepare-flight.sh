@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # prepare-flight.sh BUILD HOME [demo|flightgear|xplane]: makes a home with the standard pages over the fictional region,
 # which is built beside it when its makers are newer. Its sensor is the recorded demo flight, which is flown and recorded
-# here when it is older than its card or plan, or else a simulator.
+# here when it is older than its card or plan, or else a simulator. The demo always begins with the same settings; whoever
+# comes again with a simulator finds his own. Charts and terrain that somebody has added stay.
 set -euo pipefail
 build=$(cd "$1" && pwd)
 home=$2
@@ -56,14 +57,40 @@ if [ "$source" = demo ]; then # begins with the profile screen; the plan is the 
 fi
 sed -n '/^\[P0\]/,$p' "$standard" >>"$config"
 mkdir -p "$home/data"
+home=$(cd "$home" && pwd)
+vendor='Vendor = Skyvane\ demo\ (not\ for\ navigation)'
+former=$(cat "$home/data/prepared-for" 2>/dev/null || true)
+case $former in
+flightgear | xplane)
+    mkdir -p "$home/data/of-$former"
+    cp "$home"/data/{config,data,fpl}.ini "$home/data/of-$former" || true # as far as they are there
+    ;;
+esac
+own=$home/data/of-$source
+if [ -e "$own/config.ini" ]; then
+    cp "$own/config.ini" "$config"
+    cp "$own/fpl.ini" "$home/data/fpl.ini" || true
+    vendor=$(grep '^Vendor = ' "$own/data.ini" || echo "$vendor")
+else
+    cp "$flight/fpl.ini" "$home/data/fpl.ini"
+fi
 cp -n "$flight/aircrafts.ini" "$home/data"
 "$here/prepare-home.sh" "$build" "$home" "$config"
+sed -i '/^Vendor = /d' "$home/data/data.ini"
+printf '%s\n' "$vendor" >>"$home/data/data.ini"
+echo "$source" >"$home/data/prepared-for"
 
-home=$(cd "$home" && pwd)
-cp "$flight/fpl.ini" "$home/data/fpl.ini"
-rm -rf "$home/.Skyvane/ChartData" "$home/.Skyvane/Terrain"
-mkdir -p "$home/.Skyvane/Logs"
-cp -r "$region/ChartData" "$region/Terrain" "$home/.Skyvane"
-rm -rf "$home/.Skyvane/ChartData/sources"
-[ "$source" != demo ] || cp -f --reflink=auto "$log" "$home/.Skyvane/Logs/Over Corrie Pass.dat"
-sed -i 's/^Vendor = .*/Vendor = Skyvane\\ demo\\ (not\\ for\\ navigation)/' "$home/data/data.ini"
+data=$home/.Skyvane
+mkdir -p "$data/Logs" "$data/ChartData" "$data/Terrain"
+if [ "$report" -nt "$data/ChartData/report.txt" ]; then
+    for set in "$region"/ChartData/*.sci; do
+        rm -rf "$data/ChartData/$(basename "$set" .sci)"
+        cp -r "${set%.sci}" "$set" "$data/ChartData"
+    done
+    cp -r "$region/Terrain/." "$data/Terrain"
+    # Coarser levels show the tiles of all lists: with others they are to be computed anew.
+    [ "$(find "$data/Terrain" -name '*.ti' | wc -l)" = "$(find "$region/Terrain" -name '*.ti' | wc -l)" ] ||
+        echo "dirty = 1" >"$data/Terrain/dirty.ini"
+    cp "$report" "$data/ChartData"
+fi
+[ "$source" != demo ] || cp -f --reflink=auto "$log" "$data/Logs/Over Corrie Pass.dat"
