@@ -52,13 +52,19 @@ std::string accuracyOf(const AirportPlan& plan) {
     return surface == "ASP" || surface == "CON" ? "3" : "";
 }
 
-// The spot of a navaid: half a mile beside the runway's second end, or where the plan says.
+// The spot of a navaid: 700 m before the runway's first end and 350 m beside, or where the plan says.
 Spot navaidSpot(const Sites& sites, const NavaidPlan& plan) {
     if (!plan.atIdent)
         return plan.place * 1000.0;
     const Airport& airport = sites.airport(plan.atIdent);
     const Spot along = (airport.to - airport.from) * (1.0 / distance(airport.from, airport.to));
     return airport.from - along * 700.0 - rightOf(along) * 350.0;
+}
+
+/// The DME channel that is paired with a VOR's frequency of 112.30 MHz or more.
+std::string dmeChannel(int kilohertz) {
+    const int steps = (kilohertz - 112300) / 50;
+    return std::to_string(70 + steps / 2) + (steps % 2 == 0 ? "X" : "Y");
 }
 
 } // namespace
@@ -178,7 +184,7 @@ std::string writeNavaids(const Landscape& landscape, const Sites& sites) {
                         feet(landscape.height(spot)),
                         "\"XS\"",
                         isNdb ? "" : std::to_string(plan.kilohertz),
-                        "",
+                        isNdb ? "" : quoted(dmeChannel(plan.kilohertz)),
                         "",
                         "",
                         "",

@@ -20,7 +20,7 @@ inline constexpr AirspacePlan airspacePlans[] = {
     {"C", "SKYVANE TMA 2", "4500ft MSL", "FL 145", "XSKV", 17.0, 3.0, {}},
     {"D", "NORTHCAPE CTR", "SFC", "2000ft MSL", "XSNC", 4.0, 3.0, {}},
     {"CTR", "WESTHAVEN MIL CTR", "SFC", "3000ft MSL", "XSWH", 4.0, 2.5, {}},
-    {"R", "SV-R 21 WESTHAVEN RANGE", "SFC", "FL 195", nullptr, 0.0, 0.0, {3.5, 58.0, 15.0, 82.0}},
+    {"R", "SV-R 21 WESTHAVEN RANGE", "SFC", "FL 85", nullptr, 0.0, 0.0, {3.5, 58.0, 15.0, 82.0}},
     {"Q", "SV-D 7 CAPE FIRING", "SFC", "FL 100", nullptr, 0.0, 0.0, {64.0, 92.0, 79.0, 107.0}},
     {"P", "SV-P 3 SUMMIT RESERVE", "SFC", "9500ft MSL", nullptr, 0.0, 0.0, {33.0, 55.0, 42.0, 63.5}},
     {"W", "THORNMOOR GLIDER WAVE", "3000ft AGL", "FL 175", nullptr, 0.0, 0.0, {26.0, 34.0, 46.0, 53.0}},

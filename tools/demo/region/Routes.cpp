@@ -6,7 +6,6 @@
 #include <functional>
 #include <map>
 #include <queue>
-#include <set>
 
 namespace skyvane::demo {
 
@@ -42,24 +41,31 @@ public:
             penalties_[static_cast<size_t>(node)] = penalty(grid_.spot(node));
     }
 
-    void connect(Spot from, Spot to) {
+    /// What runs along an older way keeps its name.
+    void connect(const char* name, Spot from, Spot to) {
         const std::vector<int> way = cheapest(grid_.nearest(from), grid_.nearest(to));
         for (size_t i = 0; i + 1 < way.size(); ++i)
-            links_.insert(makeLink(way[i], way[i + 1]));
+            links_.emplace(makeLink(way[i], way[i + 1]), name);
     }
 
-    /// The network as lines between its junctions and ends.
-    std::vector<std::vector<Spot>> lines() const {
+    /// The network as lines between its junctions and ends; each has one name.
+    std::vector<Route> routes() const {
         std::map<int, std::vector<int>> neighbours;
-        for (const Link& link : links_) {
+        for (const auto& [link, name] : links_) {
             neighbours[link.first].push_back(link.second);
             neighbours[link.second].push_back(link.first);
         }
-        std::set<Link> left = links_;
-        std::vector<std::vector<Spot>> lines;
+        std::map<Link, const char*> left = links_;
+        std::vector<Route> routes;
         const auto follow = [&](int from, int next) {
+            const auto first = left.find(makeLink(from, next));
+            if (first == left.end())
+                return;
+            const char* name = first->second;
             std::vector<Spot> line{grid_.spot(from)};
-            while (left.erase(makeLink(from, next)) > 0) {
+            for (auto link = first; link != left.end() && link->second == name;
+                 link = left.find(makeLink(from, next))) {
+                left.erase(link);
                 line.push_back(grid_.spot(next));
                 const std::vector<int>& ways = neighbours[next];
                 if (ways.size() != 2)
@@ -68,8 +74,7 @@ public:
                 from = next;
                 next = beyond;
             }
-            if (line.size() > 1)
-                lines.push_back(smoothLine(std::move(line), 3));
+            routes.push_back({name, smoothLine(std::move(line), 3)});
         };
         for (const auto& [node, ways] : neighbours) {
             for (const int way : ways) {
@@ -77,9 +82,9 @@ public:
                     follow(node, way);
             }
         }
-        while (!left.empty()) // rings
-            follow(left.begin()->first, left.begin()->second);
-        return lines;
+        while (!left.empty()) // rings, and where the name changes
+            follow(left.begin()->first.first, left.begin()->first.second);
+        return routes;
     }
 
 private:
@@ -130,7 +135,7 @@ private:
     const HeightGrid& grid_;
     RouteRules rules_;
     std::vector<double> penalties_;
-    std::set<Link> links_;
+    std::map<Link, const char*> links_; ///< And their names.
 };
 
 // Beside the runway's middle, where the apron is.
@@ -139,37 +144,29 @@ Spot gate(const Airport& airport) {
     return airport.middle() + rightOf(line * (1.0 / length(line))) * 600.0;
 }
 
-void append(std::vector<Route>& routes, const char* name, const std::vector<std::vector<Spot>>& lines) {
-    for (const auto& line : lines)
-        routes.push_back({name, line});
-}
-
 } // namespace
 
 std::vector<Route> buildRoads(const Landscape& landscape, const Sites& sites) {
     WayFinder finder(landscape, {12.0, 0.09});
     for (const RoadPlan& plan : roadPlans) {
         for (size_t i = 0; i + 1 < plan.towns.size(); ++i)
-            finder.connect(sites.town(plan.towns[i]).middle, sites.town(plan.towns[i + 1]).middle);
+            finder.connect(plan.name, sites.town(plan.towns[i]).middle, sites.town(plan.towns[i + 1]).middle);
     }
     for (const Airport& airport : sites.airports) {
         if (airport.plan->site == AirportPlan::Site::Runway)
-            finder.connect(gate(airport), sites.town(airport.plan->town).middle);
+            finder.connect("Airport road (fictional)", gate(airport), sites.town(airport.plan->town).middle);
     }
-    std::vector<Route> roads;
-    append(roads, "Road (fictional)", finder.lines());
-    return roads;
+    return finder.routes();
 }
 
 std::vector<Route> buildRailway(const Landscape& landscape, const Sites& sites) {
     WayFinder finder(landscape, {60.0, 0.025});
     for (size_t i = 0; i + 1 < std::size(railwayTowns); ++i) {
         const Spot aside{350.0, -350.0}; // beside the towns' middles, where the roads meet
-        finder.connect(sites.town(railwayTowns[i]).middle + aside, sites.town(railwayTowns[i + 1]).middle + aside);
+        finder.connect(railwayName, sites.town(railwayTowns[i]).middle + aside,
+                       sites.town(railwayTowns[i + 1]).middle + aside);
     }
-    std::vector<Route> railway;
-    append(railway, railwayName, finder.lines());
-    return railway;
+    return finder.routes();
 }
 
 } // namespace skyvane::demo
