@@ -72,6 +72,9 @@ bool isComplete(const CompileOptions& options, std::string& error) {
             error = std::string(name) + " is missing";
     if (error.empty() && options.sources.empty())
         error = "no sources are named";
+    // The first of them are airports, if any are.
+    if (error.empty() && options.region.isCountries() && options.sources.front().kind != &sourceKinds.front())
+        error = "a --region of countries needs --airports: they tell where a country is";
     return error.empty();
 }
 

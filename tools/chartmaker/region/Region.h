@@ -39,6 +39,7 @@ public:
     bool touches(const ChartPosition& northWest, const ChartPosition& southEast) const;
 
     bool isBox() const { return kind_ == Kind::Box; }
+    bool isCountries() const { return kind_ == Kind::Countries; }
     /// The corners of a box; the eastern longitude is above the western one, by a turn at most.
     const ChartPosition& getNorthWest() const { return northWest_; }
     const ChartPosition& getSouthEast() const { return southEast_; }
