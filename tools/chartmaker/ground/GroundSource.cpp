@@ -1,7 +1,9 @@
 #include "chartmaker/ground/GroundSource.h"
 
 #include "chartmaker/ground/GroundElements.h"
+#include "chartmaker/ground/PbfBlocks.h"
 #include "core/IProgressSink.h"
+#include "core/files/Paths.h"
 
 #include <cpl_conv.h>
 #include <cpl_vsi.h>
@@ -240,6 +242,10 @@ private:
 } // namespace
 
 bool readGround(const std::string& path, const SourceContext& context) {
+    if (endsWith(path, ".pbf") && fileExist(path) && !isWholePbf(path)) {
+        context.sink.refuse({path, 0}, "is damaged: it ends inside of a block, or isn't an OpenStreetMap extract");
+        return false;
+    }
     GDALAllRegister();
     const QuietErrors quiet;
     const OsmConfiguration configuration;

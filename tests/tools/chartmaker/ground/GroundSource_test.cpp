@@ -1,3 +1,4 @@
+#include "chartmaker/ground/PbfBlocks.h"
 #include "sensors/TemporaryFolder.h"
 #include "support/SourceFolder.h"
 #include "tools/chartmaker/ChartMakerRun.h"
@@ -135,6 +136,19 @@ TEST_F(GroundSource, RefusesWhatItCannotRead) {
         EXPECT_EQ(run.status, 1) << name;
         EXPECT_NE(run.error.find("refused"), std::string::npos) << name;
     }
+}
+
+TEST_F(GroundSource, KnowsAnExtractThatWasCut) {
+    const std::string block("\0\0\0\7\n\3OSM\x18\5data.", 16); // a head of seven bytes that tells of five
+    const auto isWhole = [this](const std::string& bytes) {
+        folder.write("extract.osm.pbf", bytes);
+        return isWholePbf(folder.path("extract.osm.pbf"));
+    };
+    EXPECT_TRUE(isWhole(block + block));
+    for (size_t length = 0; length < block.size(); ++length)
+        EXPECT_EQ(isWhole(block + block.substr(0, length)), length == 0) << length;
+    EXPECT_FALSE(isWhole(""));
+    EXPECT_FALSE(isWhole("<html>not found</html>"));
 }
 
 TEST_F(GroundSource, TakesAWholeExtract) {
