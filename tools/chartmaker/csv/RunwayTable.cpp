@@ -87,6 +87,16 @@ std::optional<double> findDirection(const CsvTable& table, const Runway& runway)
     return std::nullopt;
 }
 
+/// The line on which thresholds are moved: that of both ends where they are known, since a heading may be of another
+/// runway or another end.
+double displacementDirection(const Runway& runway, double directionDegrees) {
+    constexpr double nearestEndsMetres = 50.0;
+    const RunwayEnd &first = runway.ends[0], &second = runway.ends[1];
+    const bool isLine = first.isThresholdKnown && second.isThresholdKnown &&
+                        calcDistance2(first.threshold, second.threshold) > nearestEndsMetres;
+    return isLine ? calcBearing2(first.threshold, second.threshold) : directionDegrees;
+}
+
 /// Moves a threshold from the end of the runway to where landing begins.
 void displace(const CsvTable& table, size_t number, double directionDegrees, Runway& runway,
               const SourceContext& context) {
@@ -148,8 +158,9 @@ void addRow(const CsvTable& table, const SourceContext& context, AirportRunways&
     const std::optional<double> direction = findDirection(table, runway);
     if (direction) {
         runway.directionDegrees = static_cast<uint32_t>(roundHalfAway(Angle0to360(*direction))) % 360;
-        displace(table, 0, *direction, runway, context);
-        displace(table, 1, *direction, runway, context);
+        const double line = displacementDirection(runway, *direction);
+        displace(table, 0, line, runway, context);
+        displace(table, 1, line, runway, context);
     } else
         nameUnknownEnds(runway);
     addRemark(airport.remarks, displacementText(table));
