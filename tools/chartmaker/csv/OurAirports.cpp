@@ -4,6 +4,8 @@
 #include "chartmaker/csv/NavaidTable.h"
 #include "core/files/Paths.h"
 
+#include <filesystem>
+
 namespace skyvane {
 namespace {
 
@@ -20,6 +22,11 @@ std::string findTable(const std::string& folder, const std::string& name, const 
 } // namespace
 
 bool readOurAirports(const std::string& folder, const SourceContext& context) {
+    std::error_code error;
+    if (std::filesystem::is_regular_file(folder, error)) {
+        context.sink.refuse({folder}, "is a file: --airports wants the folder that holds the tables");
+        return false;
+    }
     const std::string airports = findTable(folder, "airports.csv", context);
     if (airports.empty())
         return false;

@@ -113,7 +113,7 @@ int runDraw(const Arguments& arguments) {
     const InspectedSet set(options.set);
     const std::string trouble = set.getTrouble();
     if (!trouble.empty())
-        complain(set.getFolder() + ": " + trouble);
+        complain(options.set + ": " + trouble);
     const ElementPainter::Elements elements = loadElements(set, *options.box);
     const ChartPosition northWest = options.box->getNorthWest(), southEast = options.box->getSouthEast();
     MapPicture picture({northWest.longitude, southEast.latitude, southEast.longitude, northWest.latitude},

@@ -106,7 +106,7 @@ int runDump(const Arguments& arguments) {
     const InspectedSet set(options.set);
     const std::string trouble = set.getTrouble();
     if (!trouble.empty())
-        complain(set.getFolder() + ": " + trouble);
+        complain(options.set + ": " + trouble);
     const int result = options.element ? dumpElement(set, *options.element) : dumpSet(set);
     return trouble.empty() ? result : 1;
 }

@@ -22,10 +22,12 @@ std::string folderOf(const std::string& path, const SetDescription& description)
 } // namespace
 
 InspectedSet::InspectedSet(const std::string& path)
-    : description_(isDescription(path) ? SetDescription::load(path) : SetDescription()),
+    : isDescribed_(isDescription(path)), description_(isDescribed_ ? SetDescription::load(path) : SetDescription()),
       folder_(folderOf(path, description_)), files_(folder_) {}
 
 std::string InspectedSet::getTrouble() const {
+    if (isDescribed_ && description_.location.empty())
+        return "is no description of a set that can be read";
     switch (files_.getState()) {
     case ElementFilesReader::State::Good:
         return files_.isCut() ? "its table of offsets ends before its elements do" : "";

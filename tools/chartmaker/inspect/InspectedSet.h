@@ -25,6 +25,7 @@ public:
     std::unique_ptr<IChartElement> load(int index) const;
 
 private:
+    bool isDescribed_;
     SetDescription description_;
     std::string folder_;
     ElementFilesReader files_;
