@@ -7,6 +7,7 @@
 #include "chartmaker/csv/OurAirports.h"
 #include "chartmaker/csv/Surfaces.h"
 #include "chartmaker/obstacles/ObstacleFile.h"
+#include "chartmaker/text/SourceText.h"
 #include "tools/chartmaker/TestSink.h"
 
 #include "chartmaker/csv/CsvReader.h"
@@ -63,6 +64,28 @@ TEST(CsvReader, splitsQuotedValuesAndKeepsTheNumbersOfLines) {
     EXPECT_EQ(csv.getValues(), (Values{"next", "2"}));
     EXPECT_EQ(csv.getLineNumber(), 5);
     EXPECT_FALSE(csv.next());
+}
+
+TEST(SourceText, ofWindowsKeepsItsQuotesAndDashes) {
+    EXPECT_EQ(cleanText("L\x92\xe9t\xe9 \x96 \x81"), "L\u2019\u00e9t\u00e9 \u2013 ?");
+    EXPECT_EQ(cleanText("L\u2019\u00e9t\u00e9"), "L\u2019\u00e9t\u00e9");
+}
+
+TEST(CsvTable, refusesALineThatTheEndOfTheFileHasCut) {
+    const std::string head = "latitude_deg,longitude_deg,altitude_msl_ft,remarks\n42.1,-28.1,500,\n";
+    const std::pair<std::string, Values> forms[] = {
+        {head + "42.2,-28.2,12", {"3: the file ends inside of this line: it may be cut"}},
+        {head + "42.2,-28.2,12\n", {}},
+        {head + "42.2,-28.2,1250,mast", {}},
+        {std::string("\xff\xfel\0a\0", 6), {"0: is text in UTF-16: save it as UTF-8"}},
+        {"latitude_deg;longitude_deg\n1;2\n", {"1: semicolons part its values: save it as comma-separated ones"}},
+    };
+    for (const auto& [text, refusals] : forms) {
+        const TextFile file(text);
+        TestSink sink;
+        readObstacleFile(file.path, sink.context());
+        EXPECT_EQ(sink.refusals, refusals) << text;
+    }
 }
 
 TEST(Surfaces, goByTheFirstWordThatIsKnown) {

@@ -16,7 +16,8 @@ namespace skyvane {
 ///     while (table.next()) use(table[Ident], table.getLine());
 ///     return table.isGood();
 ///
-/// What is wrong with the file or a line is told to the sink: a column that is missing, broken quotes.
+/// What is wrong with the file or a line is told to the sink: a column that is missing, broken quotes, an end inside of
+/// a line.
 class CsvTable {
 public:
     using Columns = std::vector<const char*>;
@@ -34,12 +35,14 @@ public:
 
 private:
     void readHeader(const Columns& needed, const Columns& optional);
+    bool isCut() const;
 
     std::string path_;
     const SourceContext& context_;
     LineReader lines_;
     CsvReader csv_{lines_};
     std::vector<size_t> places_; ///< Of the columns in a record.
+    size_t headerSize_ = 0;
     bool isGood_ = true;
 };
 

@@ -191,6 +191,8 @@ bool readOpenAir(const std::string& path, const SourceContext& context) {
         if (lines.getLineNumber() % linesPerStep == 0)
             context.progress.setProgress(lines.getShare());
     }
+    if (lines.isUnended())
+        context.sink.warn({path, lines.getLineNumber()}, "the file ends inside of this line: it may be cut");
     parser.finish();
     if (!lines.getError().empty())
         context.sink.refuse({path}, lines.getError());

@@ -10,6 +10,8 @@ namespace {
 
 constexpr unsigned blockBytes = 128 * 1024;
 constexpr std::string_view byteOrderMark = "\xef\xbb\xbf";
+/// Those of UTF-16, either end first.
+constexpr std::string_view wideMarks[] = {"\xff\xfe", "\xfe\xff"};
 
 long readPacked(gzFile file, char* bytes, unsigned count) {
     const long got = gzread(file, bytes, count);
@@ -72,12 +74,27 @@ bool LineReader::next(std::string_view& line) {
         append(rest_.substr(0, end));
         rest_.remove_prefix(end + 1);
     }
+    isUnended_ = end == std::string_view::npos;
     if (!line_.empty() && line_.back() == '\r')
         line_.pop_back();
-    if (number_++ == 0 && line_.compare(0, byteOrderMark.size(), byteOrderMark) == 0)
-        line_.erase(0, byteOrderMark.size());
+    if (number_++ == 0 && !takeMark())
+        return false;
     line = line_;
     return true;
+}
+
+/// Off the first line. False for text of another kind than what is read here.
+bool LineReader::takeMark() {
+    if (line_.compare(0, byteOrderMark.size(), byteOrderMark) == 0)
+        line_.erase(0, byteOrderMark.size());
+    for (const std::string_view mark : wideMarks)
+        if (line_.compare(0, mark.size(), mark) == 0)
+            error_ = "is text in UTF-16: save it as UTF-8";
+    if (error_.empty())
+        return true;
+    read_ = nullptr;
+    rest_ = {};
+    return false;
 }
 
 } // namespace skyvane

@@ -9,10 +9,17 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r\n\v\f";
 
-std::string latin1ToUtf8(std::string_view text) {
+/// Windows' code page 1252 from 0x80 to 0x9f, where it differs from Latin-1; "?" for what it leaves free.
+constexpr wchar_t ofCodePage[] =
+    L"\u20ac?\u201a\u0192\u201e\u2026\u2020\u2021\u02c6\u2030\u0160\u2039\u0152?\u017d?"
+    L"?\u2018\u2019\u201c\u201d\u2022\u2013\u2014\u02dc\u2122\u0161\u203a\u0153?\u017e\u0178";
+
+std::string codePageToUtf8(std::string_view text) {
     std::wstring wide;
-    for (const char c : text)
-        wide += static_cast<wchar_t>(static_cast<unsigned char>(c));
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        wide += byte >= 0x80 && byte < 0xa0 ? ofCodePage[byte - 0x80] : static_cast<wchar_t>(byte);
+    }
     return encodeUtf8(wide);
 }
 
@@ -52,7 +59,7 @@ std::string upperCase(std::string_view text) {
 
 std::string cleanText(std::string_view text, size_t most) {
     const std::string bytes(trimmed(text));
-    std::string clean = encodeUtf8(decodeUtf8(bytes)) == bytes ? bytes : latin1ToUtf8(bytes);
+    std::string clean = encodeUtf8(decodeUtf8(bytes)) == bytes ? bytes : codePageToUtf8(bytes);
     if (clean.size() > most)
         clean.resize(cutAt(clean, most));
     for (char& c : clean)

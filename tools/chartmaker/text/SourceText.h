@@ -20,8 +20,8 @@ std::string_view trimmed(std::string_view text);
 std::vector<std::string_view> splitAtBlanks(std::string_view text, size_t most);
 std::string upperCase(std::string_view text);
 
-/// The text as charts hold it: trimmed, UTF-8 (bytes that aren't count as Latin-1), control characters as blanks, and
-/// not longer than `most`.
+/// The text as charts hold it: trimmed, UTF-8 (bytes that aren't count as Windows' code page 1252), control characters
+/// as blanks, and not longer than `most`.
 std::string cleanText(std::string_view text, size_t most = LongestName);
 
 /// Adds a line to remarks that end before their limit.
