@@ -1,5 +1,7 @@
 #include "procedures/approach/TrafficPatternApproach.h"
 
+#include "chart/geodesy/EarthConstants.h"
+#include "core/text/Numbers.h"
 #include "procedures/approach/TrafficCircuit.h"
 #include "procedures/framework/ProcedureKeys.h"
 
@@ -12,6 +14,8 @@ namespace {
 
 constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double HighestMetres = 100000.0;
+/// 100 feet: a fix is set in hundreds, a circuit isn't.
+constexpr double LeastClimbMetres = 100.0 * MetresPerFoot;
 /// A circuit is longer, what is left of it near its end is shorter.
 constexpr double MostMilesLeft = 0.3;
 
@@ -20,6 +24,13 @@ constexpr double MostMilesLeft = 0.3;
 void TrafficPatternApproach::setCircuit(bool isLeftTraffic, double altitude) {
     isLeftTraffic_ = isLeftTraffic;
     tpAltitude_ = altitude;
+}
+
+std::string TrafficPatternApproach::climbWarning() const {
+    if (getFafAltitude() - tpAltitude_ < LeastClimbMetres)
+        return "";
+    return "FAF above circuit (" + toText(roundHalfAway(tpAltitude_ / MetresPerFoot)) +
+           " ft):\nthe turn to final climbs";
 }
 
 bool TrafficPatternApproach::shallSwitchToNextProc() {

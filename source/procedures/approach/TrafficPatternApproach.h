@@ -15,6 +15,8 @@ public:
     void setCircuit(bool isLeftTraffic, double altitude);
     bool isLeftTraffic() const { return isLeftTraffic_; }
     double getCircuitAltitude() const { return tpAltitude_; }
+    /// What the pilot must hear of a final that begins above the circuit; empty when there is nothing to say.
+    std::string climbWarning() const;
     const char* getAppId() const override { return AppId; }
     /// The path ends where it enters the circuit: only who has flown around has reached its end.
     bool shallSwitchToNextProc() override;

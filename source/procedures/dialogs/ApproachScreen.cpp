@@ -6,7 +6,7 @@
 #include "core/text/Utf8.h"
 #include "gui/windows/NumberEditBox.h"
 #include "gui/windows/WindowTools.h"
-#include "procedures/approach/IApproach.h"
+#include "procedures/approach/TrafficPatternApproach.h"
 #include "procedures/dialogs/ProcedureDocuments.h"
 #include "procedures/framework/FlightReadings.h"
 #include "procedures/preview/PathFigures.h"
@@ -42,7 +42,7 @@ ApproachScreen::ApproachScreen(Context& context, ApproachProcedureFactory& facto
         profiles->addItem(profile->getLabel().c_str());
     profiles->setSelected(static_cast<int>(factory.getSelectedProfile()));
     addNumberBoxes();
-    showWarnings();
+    colorText(element("twarning"), WarningColor);
     refresh();
 }
 
@@ -57,11 +57,13 @@ void ApproachScreen::addNumberBoxes() {
     altitude_ = add("saltitude", factory_.getValues().getFafAltitude(), AltitudeFeet);
 }
 
-void ApproachScreen::showWarnings() {
-    const std::string threshold = thresholdWarning(landing_), accuracy = accuracyWarning(landing_);
-    const std::string text = threshold + (threshold.empty() || accuracy.empty() ? "" : "\n") + accuracy;
+void ApproachScreen::showWarnings(const IProcedure* made) {
+    const auto* circuit = dynamic_cast<const TrafficPatternApproach*>(made);
+    std::string text;
+    for (const std::string& warning :
+         {circuit ? circuit->climbWarning() : "", thresholdWarning(landing_), accuracyWarning(landing_)})
+        text += (text.empty() || warning.empty() ? "" : "\n") + warning;
     showText(element("twarning"), decodeUtf8(text).c_str());
-    colorText(element("twarning"), WarningColor);
 }
 
 bool ApproachScreen::onEntry(const irr::SEvent& event) {
@@ -96,6 +98,7 @@ void ApproachScreen::refresh() {
 void ApproachScreen::showPath() {
     CoursePreview::Scene scene;
     const std::unique_ptr<IProcedure> made = factory_.Create();
+    showWarnings(made.get());
     if (!made)
         return preview().show({});
     const auto& approach = static_cast<const IApproach&>(*made);

@@ -23,7 +23,7 @@ protected:
 
 private:
     void addNumberBoxes();
-    void showWarnings();
+    void showWarnings(const IProcedure* made);
     void showPath();
 
     ApproachProcedureFactory& factory_;

@@ -152,6 +152,17 @@ TEST_F(Approaches, ofCircuitsEndBehindTheCircuitNotWhereItIsEntered) {
     }
 }
 
+TEST_F(Approaches, ofCircuitsTellOfAFixAboveTheCircuit) {
+    const auto warning = [this](size_t profile, int miles) {
+        make(0, profile);
+        factory.getValues().setFinalLength(miles);
+        return dynamic_cast<TrafficPatternApproach&>(*factory.Create()).climbWarning();
+    };
+    EXPECT_EQ(warning(2, 1), "");
+    EXPECT_EQ(warning(3, 2), "") << "begins on it";
+    EXPECT_EQ(warning(3, 4), "FAF above circuit (1530 ft):\nthe turn to final climbs");
+}
+
 TEST(ApproachValues, hangTogether) {
     ApproachValues values;
     values.setElevation(530);
