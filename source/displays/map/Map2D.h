@@ -105,7 +105,7 @@ public:
 
     /// The aircraft's, as it was heard of last.
     ChartPosition getPosition() const;
-    /// Metres above mean sea level, as indicated.
+    /// Metres above mean sea level, as indicated; NaN while nobody knows it.
     double getAltitude() const;
     /// The direction that lies at the top, in degrees: the heading while the map follows it, else 0.
     double getTopTrack() const;

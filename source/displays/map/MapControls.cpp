@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace skyvane {
 namespace {
@@ -31,7 +32,7 @@ const irr::video::SColor usedZoomBarColor(0x80404040);
 constexpr float compassShare = 0.6f; // of a button's width
 constexpr float zoomBarShare = 0.75f;
 constexpr float needlePivot = 0.4765625f;
-constexpr float smallText = 0.72f;
+constexpr float smallText = 0.72f, troubleText = 0.85f;
 constexpr float rowShare = 0.62f; // of a button's height
 constexpr double drawingWidth = 1.25, drawingAspect = 3.0476190476190474, drawingText = 0.8;
 
@@ -198,22 +199,24 @@ void MapControls::drawDistance(const Rect& panel, const MapReadings& readings) {
 }
 
 void MapControls::drawTrouble(const Rect& panel, const MapReadings& readings) {
-    const wchar_t* words = nullptr;
-    if (readings.positionLevel == ISensor::WRONG)
-        words = L"NO POSITION";
-    else if (readings.headingLevel == ISensor::WRONG && view_.getMode() == MapMode::TrackUp)
-        words = L"NO HEADING";
-    else if (readings.altitudeLevel == ISensor::WRONG && map_.getSwitches().terrainEnable)
-        words = L"NO ALTITUDE";
-    if (!words)
-        return;
-    set(trouble_, words, white);
+    const bool isTurned = view_.getMode() == MapMode::TrackUp, hasTerrain = map_.getSwitches().terrainEnable;
+    const std::pair<bool, const wchar_t*> troubles[] = {
+        {readings.positionLevel == ISensor::WRONG, L"NO POSITION"},
+        {readings.headingLevel == ISensor::WRONG && isTurned, L"NO HEADING"},
+        {readings.altitudeLevel == ISensor::WRONG && hasTerrain, L"NO ALTITUDE"}};
     const int height = map_.getContext()->getScreenMetrics().buttonHeight * 3 / 4;
-    const int width = widthOf(words, 0.85f) + height, middle = view_.getPanel().width / 2;
-    const int top = view_.getPanel().height / 5;
-    const Rect place(middle - width / 2, top, middle - width / 2 + width, top + height);
-    drawPlate(place, warningPlate);
-    drawText(trouble_, panel, place, 0.85f, true);
+    const int middle = view_.getPanel().width / 2;
+    int top = view_.getPanel().height / 5;
+    for (size_t i = 0; i < troubles_.size(); ++i) {
+        if (!troubles[i].first)
+            continue;
+        set(troubles_[i], troubles[i].second, white);
+        const int width = widthOf(troubles[i].second, troubleText) + height;
+        const Rect place(middle - width / 2, top, middle - width / 2 + width, top + height);
+        drawPlate(place, warningPlate);
+        drawText(troubles_[i], panel, place, troubleText, true);
+        top += height * 5 / 4;
+    }
 }
 
 void MapControls::drawDrawingBox(const Rect& panel) {

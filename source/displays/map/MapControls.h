@@ -3,6 +3,7 @@
 #include "displays/mapmath/MapGestures.h"
 #include "gui/font/CachedText.h"
 
+#include <array>
 #include <irrlicht.h>
 #include <vector>
 
@@ -52,7 +53,7 @@ private:
     CachedText orientation_;
     CachedText scale_;
     CachedText distance_;
-    CachedText trouble_;
+    std::array<CachedText, 3> troubles_; ///< Position, heading, altitude.
     CachedText drawing_;
     std::wstring wide_;
     std::vector<irr::core::rect<int>> plates_;

@@ -128,7 +128,7 @@ void MapParts::drawGround() {
     if (hasTerrain && view.getMode() != MapMode::Dragging)
         terrain.requestIfNeeded(view);
     // From an altitude that nobody knows no ground can be told to be near; the map says so in words.
-    const double altitude = readings.altitudeLevel != ISensor::WRONG ? map.getAltitude() : farAboveMetres;
+    const double altitude = std::isfinite(map.getAltitude()) ? map.getAltitude() : farAboveMetres;
     // Under opaque charts for where they end; over them it only warns.
     const bool isBelow = hasTerrain && !settings.transparency;
     if (isBelow)
@@ -213,12 +213,12 @@ bool MapParts::proceedTile(double seconds) {
 bool MapParts::hasAltitudeChanged() {
     if (view.getViewArea() > altitudeArea || tiles.isFilling() || !tiles.isComplete() || !switches.chartElements)
         return false;
-    const double altitude = map.getAltitude();
-    if (std::fabs(altitude - checkedAltitude_) <= altitudeStepMetres)
+    const double altitude = map.getAltitude(), before = checkedAltitude_;
+    const bool isKnown = std::isfinite(altitude), wasKnown = std::isfinite(before);
+    if (isKnown == wasKnown && !(std::fabs(altitude - before) > altitudeStepMetres))
         return false;
-    const double before = checkedAltitude_;
     checkedAltitude_ = altitude;
-    return checkChange(before, altitude);
+    return isKnown != wasKnown || checkChange(before, altitude);
 }
 
 /// Whether any element of the tiles looks another way at the other altitude.

@@ -47,8 +47,7 @@ void MapReadings::update(SensorManager& sensors) {
     ISensor* source = sensors.getDefaultSensor(sensors.getIndicatedAltitudeSource());
     const bool isKnown = source && source->getData(sensors.getIndicatedAltitudeSource()) && std::isfinite(altitude);
     altitudeLevel = isKnown ? levelOf(sensors, *source, sensors.getIndicatedAltitudeSource()) : ISensor::WRONG;
-    if (isKnown)
-        altitudeMetres = altitude;
+    altitudeMetres = altitudeLevel != ISensor::WRONG ? altitude : std::numeric_limits<double>::quiet_NaN();
 }
 
 ISensor::WarningLevel MapReadings::getWorst() const {

@@ -103,6 +103,9 @@ TEST(TrafficPicture, TellsTheDifferenceInTens) {
     EXPECT_FALSE(describeTraffic(target(3790), filtered));
     EXPECT_TRUE(describeTraffic(target(-100000), filtered)) << "who doesn't tell his altitude may be at ours";
     EXPECT_EQ("---", describeTraffic(target(-100000), filtered)->differenceText);
+    TrafficSituation unknown = filtered;
+    unknown.ownAltitudeMetres = noNumber;
+    EXPECT_EQ("---", describeTraffic(target(20000), unknown)->differenceText) << "nobody knows our own";
 }
 
 TEST(TrafficPicture, WildValuesAreNotDrawn) {

@@ -11,6 +11,8 @@
 #include "displays/map/elements/RendererParts.h"
 #include "displays/mapmath/AltitudeTint.h"
 
+#include <cmath>
+
 namespace skyvane {
 
 namespace {
@@ -51,7 +53,7 @@ void ObstructionRenderer::renderSketch(const IChartElement* element, const irr::
 }
 
 irr::video::SColor ObstructionRenderer::calcColor(double metresBelow) {
-    return irr::video::SColor(altitudeTint(metresBelow));
+    return std::isfinite(metresBelow) ? irr::video::SColor(altitudeTint(metresBelow)) : plainColor;
 }
 
 void ObstructionRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) {
