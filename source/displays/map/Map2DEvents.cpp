@@ -146,7 +146,7 @@ bool Map2D::processButton(const irr::SEvent& event) {
         showMapInfo(*context_, parts_->selection.getIndex(), parts_->selection.getPosition());
         return false;
     case MapButtons::Create:
-        createDirect(*context_, parts_->selection.getIndex(), parts_->selection.getPosition(), getPosition());
+        createProcedure(*context_, parts_->selection.getIndex(), parts_->selection.getPosition(), getPosition());
         return false;
     case MapButtons::Center:
         parts_->view.follow();

@@ -36,29 +36,41 @@ void showBox(Context& context, const std::string& text) {
     (new CMBox(context.getIrrlichtDevice()->getGUIEnvironment(), nullptr, decodeUtf8(text), L"Close", L""))->drop();
 }
 
+/// Null without one. To be used at once.
+IChartElement* elementOf(Context& context, int index) {
+    IChart* chart = context.getPanelManager()->getChart();
+    return chart && index != MapSelection::None ? chart->getChartElement(index) : nullptr;
+}
+
 } // namespace
 
 void showMapInfo(Context& context, int index, const ChartPosition& position) {
-    PanelManager* panels = context.getPanelManager();
-    IChart* chart = panels->getChart();
-    IChartElement* element = chart && index != MapSelection::None ? chart->getChartElement(index) : nullptr;
-    if (!element)
+    if (!elementOf(context, index))
         return showBox(context, "Position:\n" + positionText(position));
-    panels->showDetails(index);
+    context.getPanelManager()->showDetails(index);
 }
 
-void createDirect(Context& context, int index, const ChartPosition& marked, const ChartPosition& aircraft) {
+bool areProceduresPossible(Context& context, IChartElement* element) {
+    ProcedureManager* manager = context.getProcedureManager();
+    bool arePossible = false;
+    for (int i = 0; element && !arePossible && i < manager->getProcedureFactoryCount(); ++i)
+        arePossible = manager->getProcedureFactory(i)->areProceduresPossible(element);
+    return arePossible;
+}
+
+void createProcedure(Context& context, int index, const ChartPosition& marked, const ChartPosition& aircraft) {
     const int choice =
         chooseOne(context, {L"marked position", L"current aircraft's position", L"Cancel"}, L"Create at:");
     if (choice < 0 || choice > 1)
         return;
     ProcedureManager* manager = context.getProcedureManager();
-    IProcedureFactory* factory = manager->findProcedureFactorybyType(IProcedure::Direct);
-    IChart* chart = context.getPanelManager()->getChart();
-    const bool isElement = choice == 0 && chart && index != MapSelection::None && chart->getChartElement(index);
-    std::unique_ptr<IProcedure> procedure =
-        isElement ? std::make_unique<DirectProcedure>(chart, index, factory)
-                  : std::make_unique<DirectProcedure>(choice == 0 ? marked : aircraft, factory);
+    IChartElement* element = choice == 0 ? elementOf(context, index) : nullptr;
+    if (areProceduresPossible(context, element)) {
+        manager->newProcedure(element, index);
+        return;
+    }
+    auto procedure = std::make_unique<DirectProcedure>(choice == 0 ? marked : aircraft,
+                                                       manager->findProcedureFactorybyType(IProcedure::Direct));
     if (manager->getProcedureCount() == 0)
         manager->addProcedure(std::move(procedure));
     else

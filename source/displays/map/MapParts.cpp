@@ -11,7 +11,7 @@
 #include "displays/drawing/Drawer2D.h"
 #include "displays/map/IChartElementRenderer.h"
 #include "displays/map/Map2D.h"
-#include "procedures/ProcedureManager.h"
+#include "displays/map/MapActions.h"
 #include "sensors/SensorManager.h"
 
 #include <GL/gl.h>
@@ -272,11 +272,7 @@ void MapParts::updateButtons() {
         return buttons.hide();
     MapButtons::State state;
     state.hasSeveral = selection.hasSeveral();
-    IChartElement* element = selection.getElement();
-    ProcedureManager* manager = context->getProcedureManager();
-    for (int i = 0; element && i < manager->getProcedureFactoryCount(); ++i)
-        state.areProceduresPossible =
-            state.areProceduresPossible || manager->getProcedureFactory(i)->areProceduresPossible(element);
+    state.areProceduresPossible = areProceduresPossible(*context, selection.getElement());
     buttons.show(rect_, state);
 }
 
