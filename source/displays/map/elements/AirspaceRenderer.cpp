@@ -66,13 +66,15 @@ bool AirspaceRenderer::isIrrelevant(const PanelManager& panels, const std::strin
     return false;
 }
 
+bool AirspaceRenderer::isWanted(const AirspaceElement& airspace, const Map2D& map) const {
+    if (airspace.bottomFeet >= map.getAirspacesBelowFeet())
+        return false;
+    return map.getSwitches().irrelevant || !isIrrelevant(*parts_.context->getPanelManager(), airspace.airspaceClass);
+}
+
 void AirspaceRenderer::render2D(const IChartElement* element, Map2D* map, int index, bool intoRTT, bool selected) {
     const auto& airspace = static_cast<const AirspaceElement&>(*element);
-    // The static bytes tell neither all classes nor floors above 29,500 feet.
-    const bool isTooHigh = airspace.bottomFeet >= map->getAirspacesBelowFeet();
-    const bool isUnwanted =
-        !map->getSwitches().irrelevant && isIrrelevant(*parts_.context->getPanelManager(), airspace.airspaceClass);
-    if (!selected && (isTooHigh || isUnwanted))
+    if (!selected && !isWanted(airspace, *map))
         return;
     const MapAffine affine = affineOf(*map, intoRTT);
     const ShapeRect view = viewOf(*map, intoRTT);
@@ -119,6 +121,8 @@ void AirspaceRenderer::addClassLabel(const AirspaceElement& airspace, Map2D& map
 bool AirspaceRenderer::isMouseOver2D(Map2D* map, const IChartElement* element, int,
                                      const irr::core::vector2d<int>& position) {
     const auto& airspace = static_cast<const AirspaceElement&>(*element);
+    if (!isWanted(airspace, *map)) // a tap finds what is drawn
+        return false;
     affineOf(*map, false).project(airspace.vertices, path_);
     const ShapePoint mouse(position.X, position.Y);
     return isInside(path_, mouse) || distanceToPath(path_, true, mouse) <= fingerReach(*map);

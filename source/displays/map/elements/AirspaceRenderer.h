@@ -41,6 +41,8 @@ public:
                           float& bandFactor);
 
 private:
+    /// What the static bytes can't tell: they know neither all classes nor floors above 29,500 feet.
+    bool isWanted(const AirspaceElement& airspace, const Map2D& map) const;
     void addClassLabel(const AirspaceElement& airspace, Map2D& map, int index, const MapAffine& affine);
 
     RendererParts& parts_;
