@@ -16,7 +16,7 @@ struct MapSettings {
     MapSwitches switches;
     double mapElementSize = 0.05; ///< Of symbols, a share of the screen.
     float maxElementDrawArea = 10000.0f;
-    MapBackdrop bgType = MapBackdrop::Vfr;
+    MapBackdrop bgType = MapBackdrop::None;
     double planeSize = 0.09;
     bool useRTT = true;
     bool drawNose = true;

@@ -66,7 +66,7 @@ TEST(MapSettings, ReadsWhatIsThereAndLimitsTheRest) {
     IniFile ini;
     const MapSettings standard = MapSettings::read(ini, "P3");
     EXPECT_EQ(0.05, standard.mapElementSize);
-    EXPECT_EQ(MapBackdrop::Vfr, standard.bgType);
+    EXPECT_EQ(MapBackdrop::None, standard.bgType);
     EXPECT_TRUE(standard.useRTT && standard.drawNose && standard.switches.airspaces);
     EXPECT_FALSE(ini.isSectionAvailable("P3")) << "reading makes no section";
     ini.setFromString("[P3]\nmapElementSize = 1e99\nbgType = high\\ ifr\nnoseLength = -4\ntranspval = 4000\n"
