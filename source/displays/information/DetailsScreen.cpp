@@ -57,7 +57,8 @@ private:
     /// Side by side above the buttons, at the right edge.
     void placeInstruments(int edge) {
         const irr::core::rect<int> row = view_->getButtonRow();
-        const int right = row.LowerRightCorner.X, bottom = row.UpperLeftCorner.Y - row.getHeight() / 6;
+        const int right = row.LowerRightCorner.X,
+                  bottom = row.UpperLeftCorner.Y - context_.getRecommendedButtonHeight() / 6;
         const irr::core::rect<int> attitude(right - edge, bottom - edge, right, bottom);
         const irr::core::rect<int> compass = attitude - irr::core::vector2d<int>(edge, 0);
         context_.getPanelManager()->setAttitudeIndicatorOverlay(true, &attitude);
