@@ -3,6 +3,7 @@
 #include "chart/geodesy/LocalFrame.h"
 #include "core/threads/Threads.h"
 #include "core/time/Time.h"
+#include "terrain/paging/ProfileHeights.h"
 
 #include <algorithm>
 #include <chrono>
@@ -89,17 +90,8 @@ bool TerrainPager::runRound() {
 }
 
 void TerrainPager::answerPoints(PointCalls& calls) {
-    TerrainSampler sampler(store_);
     for (auto& call : calls) {
-        const double density = 1.0 / call->samplingInterval;
-        for (size_t i = 0; i < call->positions.size(); ++i) {
-            const TerrainSampler::Height sample = sampler.sample(call->positions[i], density);
-            const float height = std::isfinite(sample.metres) ? sample.metres : 0.0f;
-            call->heights[i] = height;
-            call->known[i] = sampler.isBelievable(sample, density);
-            call->minimum = std::min(call->minimum, height);
-            call->maximum = std::max(call->maximum, height);
-        }
+        fillProfileHeights(store_, *call);
         call->timeStamp = MilliSecs();
     }
 }
@@ -145,12 +137,17 @@ bool TerrainPager::isWideWorn(const ChartPosition& aircraft) const {
            distance(lastWide_.centre, aircraft) > WideMoveMetres;
 }
 
-void TerrainPager::buildNear(const Aircraft& aircraft, const TerrainSampler::Height& ground) {
+template <class Mesh>
+void TerrainPager::build(Mesh& kind, const Aircraft& aircraft, LastMesh& last, TerrainMesh& mesh) {
     const ChartPosition centre =
-        lastNear_.exists ? moveAhead(lastNear_.position, aircraft.position, NearMesh::AheadMetres) : aircraft.position;
+        last.exists ? moveAhead(last.position, aircraft.position, Mesh::AheadMetres) : aircraft.position;
     TerrainSampler sampler(store_);
-    nearMesh_.build(sampler, centre, loadingNear_);
-    lastNear_ = {true, aircraft.position, centre, aircraft.altitudeMetres};
+    kind.build(sampler, centre, mesh);
+    last = {true, aircraft.position, centre, aircraft.altitudeMetres};
+}
+
+void TerrainPager::buildNear(const Aircraft& aircraft, const TerrainSampler::Height& ground) {
+    build(nearMesh_, aircraft, lastNear_, loadingNear_);
     const Lock lock(mutexMessageAndPos_);
     terrContinue_ = false;
     newMeshAvailable_ = true;
@@ -158,11 +155,7 @@ void TerrainPager::buildNear(const Aircraft& aircraft, const TerrainSampler::Hei
 }
 
 void TerrainPager::buildWide(const Aircraft& aircraft) {
-    const ChartPosition centre =
-        lastWide_.exists ? moveAhead(lastWide_.position, aircraft.position, WideMesh::AheadMetres) : aircraft.position;
-    TerrainSampler sampler(store_);
-    wideMesh_.build(sampler, centre, loadingWide_);
-    lastWide_ = {true, aircraft.position, centre, aircraft.altitudeMetres};
+    build(wideMesh_, aircraft, lastWide_, loadingWide_);
     const Lock lock(mutexMessageAndPos_);
     terrWideContinue_ = false;
     newWideMeshAvailable_ = true;

@@ -91,23 +91,6 @@ public:
 private:
     using PointCalls = std::list<std::unique_ptr<PointCall>>;
     using ImageCalls = std::list<std::unique_ptr<ImageCall>>;
-
-    static void* terrMain(void* self);
-    void answerPoints(PointCalls& calls);
-    void answerImages(ImageCalls& calls);
-    void handOver(PointCalls& points, ImageCalls& images);
-    void watchAircraft(const Aircraft& aircraft, bool nearWanted, bool wideWanted);
-    void buildNear(const Aircraft& aircraft, const TerrainSampler::Height& ground);
-    /// Under the lock.
-    void setElevation(const TerrainSampler::Height& ground);
-    void buildWide(const Aircraft& aircraft);
-    bool isWideWorn(const ChartPosition& aircraft) const;
-    void forgetMeshes();
-    ImageCalls takeWaitingImages();
-    void swapWithThread(const Aircraft& aircraft, ImageCalls& images, News& news);
-    void dropUnwanted(News& news);
-    bool isDropped(const void* who, unsigned number) const;
-
     /// Where the aircraft was when a mesh was made.
     struct LastMesh {
         bool exists = false;
@@ -115,6 +98,25 @@ private:
         ChartPosition centre; ///< Of the mesh.
         double altitudeMetres = 0.0;
     };
+
+    static void* terrMain(void* self);
+    void answerPoints(PointCalls& calls);
+    void answerImages(ImageCalls& calls);
+    void handOver(PointCalls& points, ImageCalls& images);
+    void watchAircraft(const Aircraft& aircraft, bool nearWanted, bool wideWanted);
+    /// Near or wide, ahead of the aircraft once one was made before.
+    template <class Mesh>
+    void build(Mesh& kind, const Aircraft& aircraft, LastMesh& last, TerrainMesh& mesh);
+    void buildNear(const Aircraft& aircraft, const TerrainSampler::Height& ground);
+    void buildWide(const Aircraft& aircraft);
+    /// Under the lock.
+    void setElevation(const TerrainSampler::Height& ground);
+    bool isWideWorn(const ChartPosition& aircraft) const;
+    void forgetMeshes();
+    ImageCalls takeWaitingImages();
+    void swapWithThread(const Aircraft& aircraft, ImageCalls& images, News& news);
+    void dropUnwanted(News& news);
+    bool isDropped(const void* who, unsigned number) const;
 
     TerrainStore& store_;
     NearMesh nearMesh_; ///< The thread's but for its size and triangles.

@@ -43,7 +43,7 @@ struct PointCall {
 
     ITerrainPointCallback* caller;
     std::vector<ChartPosition> positions;
-    std::vector<float> heights; ///< Metres; 0 without terrain.
+    std::vector<float> heights; ///< Metres, as fillProfileHeights gives them; 0 without terrain.
     std::vector<uint8_t> known; ///< A flag for each height: 0 where the terrain isn't known, or only coarsely.
     double samplingInterval;    ///< Square kilometres for which one sample does.
     unsigned timeStamp = 0;     ///< MilliSecs() of the answer.
