@@ -19,19 +19,7 @@ MeshApron::MeshApron(int sampleAmount) {
 }
 
 std::vector<uint16_t> MeshApron::makeIndices() const {
-    const auto count = static_cast<int>(rim_.size());
-    std::vector<uint16_t> indices;
-    indices.reserve(static_cast<size_t>(6 * (RingCount - 1) * count));
-    for (int ring = 0; ring + 1 < RingCount; ++ring)
-        for (int i = 0; i < count; ++i) {
-            const int next = (i + 1) % count;
-            const auto inner = static_cast<uint16_t>(ring * count + i);
-            const auto innerNext = static_cast<uint16_t>(ring * count + next);
-            const auto outer = static_cast<uint16_t>(inner + count);
-            const auto outerNext = static_cast<uint16_t>(innerNext + count);
-            indices.insert(indices.end(), {inner, innerNext, outerNext, inner, outerNext, outer});
-        }
-    return indices;
+    return makeRingIndices(RingCount, static_cast<int>(rim_.size()), RingTurn::Anticlockwise);
 }
 
 double MeshApron::calcShare(double metres) {

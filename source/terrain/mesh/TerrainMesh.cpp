@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
+#include <utility>
 
 namespace skyvane {
 namespace {
@@ -85,6 +87,26 @@ void calcGridNormals(std::vector<TerrainVertex>& vertices, int columns, GridColu
             };
             vertex->normal = calcNormal(*vertex, around);
         }
+}
+
+std::vector<uint16_t> makeRingIndices(int rings, int verticesPerRing, RingTurn turn) {
+    std::vector<uint16_t> indices;
+    indices.reserve(6 * static_cast<size_t>(std::max(rings - 1, 0)) * static_cast<size_t>(verticesPerRing));
+    const auto add = [&indices, turn](int first, int second, int third) {
+        if (turn == RingTurn::Anticlockwise)
+            std::swap(second, third);
+        for (const int vertex : {first, second, third})
+            indices.push_back(static_cast<uint16_t>(vertex));
+    };
+    for (int ring = 0; ring + 1 < rings; ++ring)
+        for (int j = 0; j < verticesPerRing; ++j) {
+            const int inner = ring * verticesPerRing + j,
+                      innerNext = ring * verticesPerRing + (j + 1) % verticesPerRing;
+            const int outer = inner + verticesPerRing, outerNext = innerNext + verticesPerRing;
+            add(inner, outer, outerNext);
+            add(inner, outerNext, innerNext);
+        }
+    return indices;
 }
 
 ChartPosition moveAhead(const ChartPosition& last, const ChartPosition& position, double metres) {

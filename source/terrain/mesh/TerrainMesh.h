@@ -55,6 +55,12 @@ enum class GridColumns { Open, Closed };
 /// neighbours.
 void calcGridNormals(std::vector<TerrainVertex>& vertices, int columns, GridColumns closing);
 
+/// Which way the vertices of a ring run, seen from above.
+enum class RingTurn { Clockwise, Anticlockwise };
+
+/// The triangles between closed rings of as many vertices each, the innermost first; clockwise seen from above.
+std::vector<uint16_t> makeRingIndices(int rings, int verticesPerRing, RingTurn turn);
+
 /// Moves a position this far on in the direction that leads from `last` to it; not at all when they are the same.
 ChartPosition moveAhead(const ChartPosition& last, const ChartPosition& position, double metres);
 

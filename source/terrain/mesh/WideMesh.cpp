@@ -81,18 +81,7 @@ WideMesh::Spot WideMesh::locate(double x, double z) {
 }
 
 std::vector<uint16_t> WideMesh::makeIndices() {
-    std::vector<uint16_t> indices;
-    indices.reserve(6u * (Rings - 1) * VerticesPerRing);
-    for (int ring = 0; ring + 1 < Rings; ++ring)
-        for (int j = 0; j < VerticesPerRing; ++j) {
-            const int next = (j + 1) % VerticesPerRing;
-            const auto inner = static_cast<uint16_t>(ring * VerticesPerRing + j);
-            const auto innerNext = static_cast<uint16_t>(ring * VerticesPerRing + next);
-            const auto outer = static_cast<uint16_t>(inner + VerticesPerRing);
-            const auto outerNext = static_cast<uint16_t>(innerNext + VerticesPerRing);
-            indices.insert(indices.end(), {inner, outer, outerNext, inner, outerNext, innerNext});
-        }
-    return indices;
+    return makeRingIndices(Rings, VerticesPerRing, RingTurn::Clockwise);
 }
 
 } // namespace skyvane
