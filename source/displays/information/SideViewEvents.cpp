@@ -6,6 +6,11 @@
 
 namespace skyvane {
 
+void SideViewPanel::OnPageChange() {
+    OnHideGUI();
+    pinch_ = SidePinch(); // fingers that leave the glass on another page aren't told here
+}
+
 bool SideViewPanel::processEvent(irr::SEvent event) {
     if (event.EventType == irr::EET_GUI_EVENT)
         return !press(buttons_.findClicked(event));

@@ -22,7 +22,7 @@ public:
     SideViewPanel(Context* context, const SideViewSettings& settings);
     ~SideViewPanel() override;
 
-    void OnPageChange() override { OnHideGUI(); }
+    void OnPageChange() override;
     void render(irr::core::rect<int> rect) override;
     bool processEvent(irr::SEvent event) override;
     std::string getName() override { return "SideViewPanel"; }

@@ -168,6 +168,11 @@ TEST_P(SideViewPanelTest, ButtonsFingersAndPressesDoWhatTheySay) {
     touch(1, TouchEvent::Left, 300, 200);
     touch(2, TouchEvent::Left, 500, 200);
     EXPECT_TRUE(touch(3, TouchEvent::Pressed, 5, 5)) << "beside the panel";
+    touch(4, TouchEvent::Pressed, 300, 200);
+    view->OnPageChange(); // the finger leaves the glass on another page
+    draw();
+    EXPECT_TRUE(touch(5, TouchEvent::Pressed, 400, 200)) << "a single finger";
+    touch(5, TouchEvent::Left, 400, 200);
     view->OnProcedureChanged();
     draw();
     EXPECT_TRUE(view->getRange().isFollowing());
