@@ -1,23 +1,17 @@
 #pragma once
 
 #include "displays/information/InformationOptions.h"
-#include "displays/instruments/DialFactory.h"
-#include "displays/instruments/SegmentBackground.h"
+#include "displays/instruments/SegmentFactory.h"
 
 namespace skyvane {
 
-class GlideInfoPanelFactory : public DialFactory {
+class GlideInfoPanelFactory : public SegmentFactory {
 public:
     explicit GlideInfoPanelFactory(Context* context)
-        : DialFactory(context, "GlideInfoPanel", "", glideInfoPanelOptions, "GlideInfo.hti") {}
-    void loadSetupFromIni(IniFile* ini, std::string section) override;
+        : SegmentFactory(context, "GlideInfoPanel", glideInfoPanelOptions, "GlideInfo.hti") {}
     std::unique_ptr<IPanel> Create() override;
     /// The panel with its labels and figures that nobody takes for values.
     void renderPreview(irr::core::rect<int> rect) override;
-
-private:
-    irr::video::SColor color_{0xff000080};
-    std::unique_ptr<SegmentBackground> previewGround_;
 };
 
 } // namespace skyvane
