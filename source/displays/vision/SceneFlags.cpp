@@ -46,7 +46,9 @@ void SceneFlags::draw(const rect<int>& panel, const rect<int>& free, const rect<
                    {L"POS", !isValueShown(trust.position)},
                    {L"ALT", !isValueShown(trust.altitude)},
                    {L"HDG", !isValueShown(trust.heading)}};
-    const int height = std::max(20, panel.getHeight() / 18), width = 5 * height / 2, gap = height / 4;
+    const int height = std::max(20, panel.getHeight() / 18), gap = height / 4;
+    // All that can fail at once fits between the tapes.
+    const int width = std::min(5 * height / 2, (free.getWidth() - 3 * gap) / 4);
     const int count = static_cast<int>(
         std::count_if(std::begin(sources), std::end(sources), [](const auto& each) { return each.failed; }));
     int left = free.getCenter().X - (count * (width + gap) - gap) / 2;

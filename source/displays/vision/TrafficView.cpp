@@ -8,6 +8,7 @@
 #include "core/text/Numbers.h"
 #include "displays/PanelManager.h"
 #include "displays/drawing/Drawer2D.h"
+#include "displays/gauges/SensorReading.h"
 #include "displays/shapes/Strokes.h"
 #include "displays/vision/SceneStage.h"
 #include "gui/font/FlexibleFont.h"
@@ -44,8 +45,12 @@ bool TrafficView::locate(const TrafficElement& element, const ChartPosition& ori
                        std::isfinite(element.longitude) && std::abs(element.latitude) <= 90.0;
     if (!known)
         return false;
-    target.isAltitudeKnown = element.altitude != unknownAltitude;
     SensorManager& sensors = *context_->getSensorManager();
+    // A difference to an altitude that was lost would look like a fresh one.
+    DialEvidence evidence;
+    readDefaultRecord(sensors, sensors.getIndicatedAltitudeSource(), evidence);
+    evidence.finite = std::isfinite(sensors.getIndicatedAltitude());
+    target.isAltitudeKnown = element.altitude != unknownAltitude && isValueShown(decideDialFlag(evidence));
     const double altitude =
         convertPressureAltitude2MSL(element.altitude * MetresPerFoot, sensors.getSeaLevelPressure());
     target.isAltitudeKnown = target.isAltitudeKnown && std::isfinite(altitude);

@@ -357,6 +357,30 @@ TEST_F(Map3DTest, survivesWhatSensorsMaySend) {
     EXPECT_GT(share(area, isTraffic), 0.002);
 }
 
+TEST_F(Map3DTest, tellsNoDifferenceToAnAltitudeThatWasLost) {
+    saveFlatEarth(300);
+    makePanel();
+    fly({1.5, 42.5}, 1000.0, 0.0, 0.0, 0.0);
+    auto element = std::make_unique<TrafficElement>();
+    element->longitude = 1.5;
+    element->latitude = 42.53;
+    element->altitude = 6000;
+    sensor->put<Traffic_Data>(ISensorData::Traffic)->elements[1] = std::move(element);
+    const auto isTraffic = [](irr::video::SColor c) {
+        return c.getBlue() > 220 && c.getRed() > 110 && c.getRed() < 160 && c.getGreen() < 190;
+    };
+    const auto highest = [&] {
+        frame();
+        for (int y = 0; y < area.LowerRightCorner.Y; ++y)
+            if (share({0, y, area.LowerRightCorner.X, y + 1}, isTraffic) > 0.0)
+                return y;
+        return area.LowerRightCorner.Y;
+    };
+    const int above = highest();
+    sensor->levels[ISensorData::Altitude] = ISensor::WRONG;
+    EXPECT_GT(highest(), above + 20) << "stands at the own height, as one that tells none";
+}
+
 TEST_F(Map3DTest, followsFingersAndComesBack) {
     makePanel();
     frame();

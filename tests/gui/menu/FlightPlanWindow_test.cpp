@@ -86,7 +86,7 @@ TEST_P(FlightPlanWindowTest, TellsHowFarAndHowLong) {
     frame();
     // Half a degree of longitude on 50 N, three times, 19.31 NM each, and a turn at the beginning.
     EXPECT_TRUE(isShown(L"Total distance [NM]: 57.9"));
-    EXPECT_STREQ(L"1  Direct: User Position   19.3 NM", list()->getListItem(0));
+    EXPECT_STREQ(L"1   19.3 NM   Direct: User Position", list()->getListItem(0));
     type(L"100");
     EXPECT_TRUE(isShown(L"kts: 00:11:35")) << irr::core::stringc(editBox(list()->getParent())->getText()).c_str();
     EXPECT_TRUE(isShown(L"EFAP at 100 kts: 00:34:44"));
