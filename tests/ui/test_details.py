@@ -59,7 +59,7 @@ def look_up(build, size):
         time.sleep(0.4)
         reader.tap('bselect')
         cockpit.wait(lambda: reader.brightness('lfrequencies') > 0.003, 20, 'the frequencies')
-        assert reader.brightness('stext') > 0.003
+        assert reader.brightness('stext') > 0.001, 'its channel'
         reader.keep('navaid')
         reader.tap('bmaps')
         time.sleep(1)
