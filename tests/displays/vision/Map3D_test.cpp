@@ -6,6 +6,7 @@
 #include "displays/visionmath/HorizonLine.h"
 #include "displays/visionmath/bars/PfdLayout.h"
 #include "procedures/ProcedureManager.h"
+#include "sensors/records/Pressure_Data.h"
 #include "sensors/records/Traffic_Data.h"
 #include "support/AllocationCounter.h"
 
@@ -366,6 +367,8 @@ TEST_F(Map3DTest, tellsNoDifferenceToAnAltitudeThatWasLost) {
     element->latitude = 42.53;
     element->altitude = 6000;
     sensor->put<Traffic_Data>(ISensorData::Traffic)->elements[1] = std::move(element);
+    sensor->put<Pressure_Data>(ISensorData::OutsidePressure, 899.0, false, 1u);
+    context->getSensorManager()->setForceAltimeterFallback(true);
     const auto isTraffic = [](irr::video::SColor c) {
         return c.getBlue() > 220 && c.getRed() > 110 && c.getRed() < 160 && c.getGreen() < 190;
     };
@@ -377,7 +380,7 @@ TEST_F(Map3DTest, tellsNoDifferenceToAnAltitudeThatWasLost) {
         return area.LowerRightCorner.Y;
     };
     const int above = highest();
-    sensor->levels[ISensorData::Altitude] = ISensor::WRONG;
+    sensor->levels[ISensorData::OutsidePressure] = ISensor::WRONG; // the height above the sea stays good
     EXPECT_GT(highest(), above + 20) << "stands at the own height, as one that tells none";
 }
 
