@@ -298,12 +298,12 @@ def test_a_plan_is_flown_as_a_pilot_computes_it(build):
         card = os.path.join(cockpit.folder, 'flight.card')
         with open(card, 'w') as out:
             out.write(flight_card())
-        feeder = cockpit.feed('--card', card, '--print', '--rate', '10', '--speed', '20')
+        feeder = cockpit.feed('--card', card, '--print', '--rate', '10', '--speed', '25')
         cockpit.wait(cockpit.truth, 10, 'the flight')
         comparison, index, since, switched, switches, messages = Comparison(), 0, 0.0, START, [], []
         holding_from = None
         while feeder.poll() is None:
-            time.sleep(0.15)  # the outbound leg of the holding lasts two seconds
+            time.sleep(0.35)
             pixels, sent = frozen(plan, feeder)
             moment = sent['time_s']
             row = plan.current(pixels) if index < 4 else 4
