@@ -39,22 +39,26 @@ TrafficView::TrafficView(Context* context)
     : context_(context), drawer_(context->getDrawer()), picture_(loadPanelImage(context, "media/traffic3d.png")),
       mesh_(context, "media/traffic.b3d", picture_.get()) {}
 
-bool TrafficView::locate(const TrafficElement& element, const ChartPosition& origin, double heightMetres,
-                         Target& target) const {
+TrafficView::Altimeter TrafficView::readAltimeter() const {
+    SensorManager& sensors = *context_->getSensorManager();
+    Altimeter altimeter{sensors.getIndicatedAltitude(), sensors.getSeaLevelPressure()};
+    // A difference to an altitude that was lost would look like a fresh one.
+    DialEvidence evidence;
+    readDefaultRecord(sensors, sensors.getIndicatedAltitudeSource(), evidence);
+    evidence.finite = std::isfinite(altimeter.metres);
+    altimeter.isShown = isValueShown(decideDialFlag(evidence));
+    return altimeter;
+}
+
+bool TrafficView::locate(const TrafficElement& element, const Altimeter& altimeter, const ChartPosition& origin,
+                         double heightMetres, Target& target) const {
     const bool known = element.longitude > unknownDegrees && element.latitude > unknownDegrees &&
                        std::isfinite(element.longitude) && std::abs(element.latitude) <= 90.0;
     if (!known)
         return false;
-    SensorManager& sensors = *context_->getSensorManager();
-    // A difference to an altitude that was lost would look like a fresh one.
-    DialEvidence evidence;
-    readDefaultRecord(sensors, sensors.getIndicatedAltitudeSource(), evidence);
-    evidence.finite = std::isfinite(sensors.getIndicatedAltitude());
-    target.isAltitudeKnown = element.altitude != unknownAltitude && isValueShown(decideDialFlag(evidence));
-    const double altitude =
-        convertPressureAltitude2MSL(element.altitude * MetresPerFoot, sensors.getSeaLevelPressure());
-    target.isAltitudeKnown = target.isAltitudeKnown && std::isfinite(altitude);
-    target.aboveMetres = target.isAltitudeKnown ? altitude - sensors.getIndicatedAltitude() : 0.0;
+    const double altitude = convertPressureAltitude2MSL(element.altitude * MetresPerFoot, altimeter.seaLevelMillibars);
+    target.isAltitudeKnown = altimeter.isShown && element.altitude != unknownAltitude && std::isfinite(altitude);
+    target.aboveMetres = target.isAltitudeKnown ? altitude - altimeter.metres : 0.0;
     target.place = ChartPosition2Vector3df64(origin, {element.longitude, element.latitude},
                                              target.isAltitudeKnown ? altitude : heightMetres);
     target.metres = target.place.getDistanceFrom({0.0, heightMetres, 0.0});
@@ -70,9 +74,10 @@ void TrafficView::drawMeshes(SceneStage& stage, const ChartPosition& origin, dou
     const auto* traffic = sensor ? static_cast<Traffic_Data*>(sensor->getData(ISensorData::Traffic)) : nullptr;
     if (!traffic || sensor->getWarning(ISensorData::Traffic) == ISensor::WRONG)
         return;
+    const Altimeter altimeter = readAltimeter();
     Target target;
     for (const auto& each : traffic->elements)
-        if (locate(*each.second, origin, heightMetres, target) && target.metres < sightMetres)
+        if (locate(*each.second, altimeter, origin, heightMetres, target) && target.metres < sightMetres)
             targets_.push_back(target);
     const auto isNearer = [](const Target& a, const Target& b) { return a.metres < b.metres; };
     std::sort(targets_.begin(), targets_.end(), isNearer);

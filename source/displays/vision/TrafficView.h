@@ -38,7 +38,14 @@ private:
         bool isAltitudeKnown = false;
         double trackDegrees = 0.0;
     };
-    bool locate(const TrafficElement& element, const ChartPosition& origin, double heightMetres, Target& target) const;
+    /// The own altimeter of this frame.
+    struct Altimeter {
+        double metres = 0.0, seaLevelMillibars = 0.0;
+        bool isShown = false; ///< Whether it can be believed.
+    };
+    Altimeter readAltimeter() const;
+    bool locate(const TrafficElement& element, const Altimeter& altimeter, const ChartPosition& origin,
+                double heightMetres, Target& target) const;
 
     Context* context_;
     Drawer2D* drawer_;
